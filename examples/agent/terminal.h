@@ -1,0 +1,10 @@
+#pragma once
+
+namespace agent {
+
+/// Makes standard output ready for ANSI sequences and UTF-8. True when it is a terminal that
+/// follows cursor control; false for files, pipes and terminals that cannot. Call once, before any
+/// output.
+bool prepareTerminal();
+
+} // namespace agent

@@ -1,0 +1,19 @@
+#include "examples/agent/terminal.h"
+
+#include <windows.h>
+
+namespace agent {
+
+bool prepareTerminal()
+{
+    SetConsoleOutputCP(CP_UTF8);
+    const HANDLE output = GetStdHandle(STD_OUTPUT_HANDLE);
+    DWORD mode = 0;
+    if (output == INVALID_HANDLE_VALUE || GetConsoleMode(output, &mode) == 0) {
+        return false;
+    }
+    // Fails on consoles from before virtual-terminal processing; those get plain lines.
+    return SetConsoleMode(output, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
+}
+
+} // namespace agent

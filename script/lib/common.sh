@@ -1,0 +1,118 @@
+# shellcheck shell=bash
+# What the scripts share: saying what they do, installing what is missing, building, and a virtual
+# display. Sourced, never run.
+
+set -euo pipefail
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
+export LC_ALL=C.UTF-8
+
+build_packages=(cmake ninja-build g++ qtbase5-dev)
+display_packages=(xvfb openbox x11-utils fonts-dejavu-core imagemagick)
+
+# Progress goes to standard error, so that a script's result stays alone on standard output.
+step() {
+    printf '\n== %s\n' "$*" >&2
+}
+
+fail() {
+    printf 'error: %s\n' "$*" >&2
+    exit 1
+}
+
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        fail "root or sudo is needed to run: $*"
+    fi
+}
+
+# ensure_packages NAME...: installs the Debian packages that are missing.
+ensure_packages() {
+    local missing=() name
+    for name in "$@"; do
+        dpkg-query -W -f '${db:Status-Status}' "$name" 2>/dev/null | grep -qx installed \
+            || missing+=("$name")
+    done
+    if [ ${#missing[@]} -eq 0 ]; then
+        return
+    fi
+    step "Installing Debian packages: ${missing[*]}"
+    as_root apt-get -q update >&2
+    as_root env DEBIAN_FRONTEND=noninteractive \
+        apt-get -q -y --no-install-recommends install "${missing[@]}" >&2
+}
+
+# build PRESET [TARGET...]
+build() {
+    local preset=$1
+    shift
+    step "Building ($preset)"
+    cd "$root"
+    cmake --preset "$preset" >"$root/build-$preset.log" 2>&1 \
+        || { cat "$root/build-$preset.log"; exit 1; }
+    rm -f "$root/build-$preset.log"
+    local targets=()
+    if [ $# -gt 0 ]; then
+        targets=(--target "$@")
+    fi
+    cmake --build --preset "$preset" "${targets[@]}"
+}
+
+children=()
+scratch=
+
+# Ends whatever the script started, last first, and removes its scratch folder.
+clean_up() {
+    local i
+    for ((i = ${#children[@]} - 1; i >= 0; i--)); do
+        kill "${children[i]}" 2>/dev/null || true
+        wait "${children[i]}" 2>/dev/null || true
+    done
+    if [ -n "$scratch" ]; then
+        rm -rf "$scratch"
+    fi
+}
+trap clean_up EXIT
+
+make_scratch() {
+    scratch=$(mktemp -d "${TMPDIR:-/tmp}/lumikey.XXXXXX")
+}
+
+# start_display: a virtual display of 96 DPI with a window manager; sets DISPLAY.
+start_display() {
+    local number_file=$scratch/display
+    step "Starting a virtual display"
+    Xvfb -displayfd 3 -screen 0 1280x1024x24 -dpi 96 -nolisten tcp \
+        3>"$number_file" 2>"$scratch/xvfb.log" &
+    children+=($!)
+    for _ in $(seq 100); do
+        [ -s "$number_file" ] && break
+        sleep 0.1
+    done
+    [ -s "$number_file" ] || { cat "$scratch/xvfb.log"; fail "the virtual display did not start"; }
+    DISPLAY=:$(cat "$number_file")
+    export DISPLAY
+    unset WAYLAND_DISPLAY XAUTHORITY
+    export QT_QPA_PLATFORM=xcb
+    HOME=$scratch openbox >"$scratch/openbox.log" 2>&1 &
+    children+=($!)
+    for _ in $(seq 100); do
+        xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' && return
+        sleep 0.1
+    done
+    cat "$scratch/openbox.log"
+    fail "the window manager did not start"
+}
+
+# throw_away_home: points the person's folders into the scratch folder.
+throw_away_home() {
+    export HOME=$scratch/home
+    export XDG_CONFIG_HOME=$HOME/.config XDG_CACHE_HOME=$HOME/.cache XDG_DATA_HOME=$HOME/.local/share
+    export XDG_RUNTIME_DIR=$scratch/runtime
+    mkdir -p "$HOME" "$XDG_RUNTIME_DIR"
+    chmod 700 "$XDG_RUNTIME_DIR"
+}

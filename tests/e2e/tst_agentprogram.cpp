@@ -1,0 +1,391 @@
+// Starts the real lumikey-agent against a server in this process.
+
+#include "agentharness.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <QtTest>
+
+#include <memory>
+
+namespace {
+
+const QString normalText = QStringLiteral("4026597120,4043309056,4060086272,4076863488,0");
+const QString effectText = QStringLiteral("4026597120,4043309056,4060086272,4076863488,2952790016");
+const QString wakeText = QStringLiteral("3758616583,3758616583,3758616583,3758616583,0");
+const QString offText = QStringLiteral("3758108672,3758108672,3758108672,3758108672,0");
+const QString dimmedText = QStringLiteral("3758108672,3758108672,3758108672,3758108672,268607488");
+
+const QString normalLine =
+    QStringLiteral("normal: left #ff0000 4026597120, centre #000000 4043309056, "
+                   "right #000000 4060086272, stripe #000000 4076863488, "
+                   "effect None\n");
+const QString effectLine =
+    QString(normalLine).replace(QStringLiteral("None"), QStringLiteral("Wave"));
+const QString wakeLine =
+    QStringLiteral("wake: left raw 3758616583, centre raw 3758616583, "
+                   "right raw 3758616583, stripe raw 3758616583, effect None\n");
+const QString offLine =
+    QStringLiteral("off: left raw 3758108672, centre raw 3758108672, "
+                   "right raw 3758108672, stripe raw 3758108672, effect None\n");
+const QString dimmedLine =
+    QString(offLine).replace(QStringLiteral("None"), QStringLiteral("Breath"));
+
+} // namespace
+
+class TestAgentProgram : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void helpAndVersion();
+    void wrongUse_data();
+    void wrongUse();
+    void noServer_data();
+    void noServer();
+    void once_data();
+    void once();
+    void onceAsJson();
+    void malformed_data();
+    void malformed();
+    void pollingStopsAtAMalformedAnswer();
+    void printsOnlyChanges();
+    void jsonPrintsEveryAnswer();
+    void periodIsKept();
+    void vanishedServer();
+    void connectionDroppedByAnEndingServer();
+    void waitsForTheServer();
+    void waitsAgainWhenTheServerVanishes();
+
+private:
+    std::unique_ptr<Server> server;
+};
+
+void TestAgentProgram::init()
+{
+    server = std::make_unique<Server>();
+}
+
+void TestAgentProgram::helpAndVersion()
+{
+    Agent help({QStringLiteral("--help")});
+    QCOMPARE(help.exitCode(), 0);
+    for (const char *option : {"--once", "--json", "--wait", "--period <ms>", "--timeout <ms>"}) {
+        QVERIFY2(help.output().contains(QLatin1String(option)), option);
+    }
+    QCOMPARE(help.errors(), QString());
+
+    Agent version({QStringLiteral("--version")});
+    QCOMPARE(version.exitCode(), 0);
+    const QRegularExpression form(QStringLiteral("^lumikey-agent \\d+\\.\\d+\\.\\d+\n$"));
+    QVERIFY2(form.match(version.output()).hasMatch(), qPrintable(version.output()));
+}
+
+void TestAgentProgram::wrongUse_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("complaint");
+
+    const auto row = [](const char *name, const QStringList &arguments, const char *complaint) {
+        QTest::newRow(name) << arguments << QString::fromLatin1(complaint);
+    };
+    const auto period = [](const char *value) {
+        return QStringList{QStringLiteral("--period"), QString::fromLatin1(value)};
+    };
+    row("unknown option", {QStringLiteral("--twice")}, "twice");
+    row("unknown help", {QStringLiteral("--help-all")}, "help-all");
+    row("stray argument", {QStringLiteral("once")}, "unexpected argument 'once'.");
+    row("period without a value", {QStringLiteral("--period")}, "period");
+    row("period 0", period("0"), "--period takes milliseconds from 1 to 3600000, not '0'.");
+    row("period empty", period(""), "--period takes milliseconds from 1 to 3600000, not ''.");
+    row("period negative", {QStringLiteral("--period=-5")}, "not '-5'.");
+    row("period with a sign", period("+5"), "not '+5'.");
+    row("period with a blank", period(" 5"), "not ' 5'.");
+    row("period with a unit", period("5ms"), "not '5ms'.");
+    row("period too long", period("3600001"), "not '3600001'.");
+    row("period beyond 64 bits", period("99999999999999999999"), "not '99999999999999999999'.");
+    row("timeout 0", {QStringLiteral("--timeout"), QStringLiteral("0")},
+        "--timeout takes milliseconds from 1 to 3600000, not '0'.");
+}
+
+void TestAgentProgram::wrongUse()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, complaint);
+
+    Agent agent(arguments);
+    QCOMPARE(agent.exitCode(), 3);
+    QCOMPARE(agent.output(), QString());
+    QVERIFY2(agent.errors().contains(complaint), qPrintable(agent.errors()));
+}
+
+void TestAgentProgram::noServer_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+
+    QTest::newRow("polling") << QStringList();
+    QTest::newRow("once") << QStringList{QStringLiteral("--once")};
+    QTest::newRow("json") << QStringList{QStringLiteral("--json")};
+    QTest::newRow("once as json") << QStringList{QStringLiteral("--once"),
+                                                 QStringLiteral("--json")};
+}
+
+void TestAgentProgram::noServer()
+{
+    QFETCH(QStringList, arguments);
+
+    Agent agent(arguments);
+    QCOMPARE(agent.exitCode(), 1);
+    QCOMPARE(agent.output(), QString());
+    QVERIFY2(
+        agent.errors().startsWith(QStringLiteral("lumikey-agent: no server at 127.0.0.9:52316 (")),
+        qPrintable(agent.errors()));
+    QVERIFY(agent.errors().endsWith(QStringLiteral("; is Lumikey running?\n")));
+}
+
+void TestAgentProgram::once_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("byteAtATime");
+    QTest::addColumn<QString>("line");
+
+    QTest::newRow("normal") << normalText << false << normalLine;
+    QTest::newRow("normal, a byte at a time") << normalText << true << normalLine;
+    QTest::newRow("effect") << effectText << false << effectLine;
+    QTest::newRow("off") << offText << false << offLine;
+    QTest::newRow("brightness zero") << dimmedText << false << dimmedLine;
+    QTest::newRow("wake") << wakeText << false << wakeLine;
+    QTest::newRow("wake, a byte at a time") << wakeText << true << wakeLine;
+}
+
+void TestAgentProgram::once()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, byteAtATime);
+    QFETCH(QString, line);
+
+    server->replies = {{frame(text), byteAtATime}};
+    QVERIFY(server->listen());
+    QStringList arguments{QStringLiteral("--once")};
+    if (byteAtATime) {
+        // On a busy machine the bytes may need longer than the usual limit.
+        arguments += {QStringLiteral("--timeout"), QString::number(longEnough)};
+    }
+    Agent agent(arguments);
+    QCOMPARE(agent.exitCode(), 0);
+    QCOMPARE(agent.output(), line);
+    QCOMPARE(agent.errors(), QString());
+    QCOMPARE(server->times.size(), 1);
+}
+
+void TestAgentProgram::onceAsJson()
+{
+    server->replies = repliesOf({effectText});
+    QVERIFY(server->listen());
+    Agent agent({QStringLiteral("--json"), QStringLiteral("--once")});
+    QCOMPARE(agent.exitCode(), 0);
+    QCOMPARE(
+        agent.output(),
+        QStringLiteral("{\"effect\":{\"name\":\"Wave\",\"word\":2952790016},\"kind\":\"normal\","
+                       "\"words\":[4026597120,4043309056,4060086272,4076863488],"
+                       "\"zones\":{\"centre\":{\"b\":0,\"g\":0,\"r\":0},"
+                       "\"left\":{\"b\":0,\"g\":0,\"r\":255},"
+                       "\"right\":{\"b\":0,\"g\":0,\"r\":0},"
+                       "\"stripe\":{\"b\":0,\"g\":0,\"r\":0}}}\n"));
+}
+
+void TestAgentProgram::malformed_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<bool>("close");
+    QTest::addColumn<QString>("complaint");
+
+    const auto row = [](const char *name, const QByteArray &bytes, bool close,
+                        const char *complaint) {
+        QTest::newRow(name) << bytes << close << QString::fromLatin1(complaint);
+    };
+    const QByteArray good = frame(normalText);
+    row("cut short", good.left(50), true,
+        "46 of the 94 bytes that the first length announces are missing");
+    row("one byte", good.left(1), true, "1 byte(s) of the 2 of the first length are missing");
+    row("nothing", QByteArray(), true, "the server closed the connection without sending a byte");
+    row("a byte too many", good + '\n', true, "1 byte(s) follow the text");
+    row("two answers", good + good, true, "96 byte(s) follow the text");
+    row("plain text", "4026597120,4043309056,4060086272,4076863488,0", true,
+        "13317 of the 13360 bytes that the first length announces are missing");
+    row("four fields", frame(QStringLiteral("1,2,3,4")), true,
+        "the line has 4 field(s) instead of 5");
+    row("a sign", frame(QStringLiteral("1,2,3,4,-5")), true,
+        "field 5 is not a plain decimal number: \"-5\"");
+    row("too large", frame(QStringLiteral("1,2,3,4,4294967296")), true,
+        "field 5 does not fit 32 bits: \"4294967296\"");
+    row("a flood", QByteArray(1000000, '\0'), false,
+        "the first length is 0, too short for the second length");
+    row("never closed", good, false,
+        "the text is complete, but the server's close is missing after the time limit of 1000 ms");
+    row("never answered", QByteArray(), false,
+        "2 byte(s) of the 2 of the first length are missing after the time limit of 1000 ms");
+    row("stopped half-way", good.left(10), false,
+        "86 of the 94 bytes that the first length announces are missing after the time limit of "
+        "1000 ms");
+}
+
+void TestAgentProgram::malformed()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(bool, close);
+    QFETCH(QString, complaint);
+
+    server->replies = {{bytes, false, close}};
+    QVERIFY(server->listen());
+    QStringList arguments{QStringLiteral("--once")};
+    if (!close) {
+        arguments += {QStringLiteral("--timeout"), QStringLiteral("1000")};
+    }
+    Agent agent(arguments);
+    QCOMPARE(agent.exitCode(), 2);
+    QCOMPARE(agent.output(), QString());
+    QCOMPARE(agent.errors(),
+             QStringLiteral("lumikey-agent: malformed answer: %1\n").arg(complaint));
+}
+
+void TestAgentProgram::pollingStopsAtAMalformedAnswer()
+{
+    server->replies = repliesOf({normalText, normalText, QStringLiteral("1,2,3,4,5,6")});
+    QVERIFY(server->listen());
+    Agent agent({QStringLiteral("--wait")});
+    QCOMPARE(agent.exitCode(), 2);
+    QCOMPARE(agent.output(), normalLine);
+    QCOMPARE(agent.errors(), QStringLiteral("lumikey-agent: malformed answer: "
+                                            "the line has 6 field(s) instead of 5\n"));
+    QCOMPARE(server->times.size(), 3);
+}
+
+void TestAgentProgram::printsOnlyChanges()
+{
+    server->replies = repliesOf({wakeText, wakeText, normalText, normalText, effectText, offText,
+                                 offText, dimmedText, normalText});
+    QVERIFY(server->listen());
+    Agent agent({QStringLiteral("--period"), QStringLiteral("20")});
+    QTRY_VERIFY_WITH_TIMEOUT(server->times.size() >= 12, longEnough);
+    const QString expected = wakeLine + normalLine + effectLine + offLine + dimmedLine + normalLine;
+    QTRY_COMPARE_WITH_TIMEOUT(agent.output(), expected, longEnough);
+    QVERIFY(agent.running());
+    QCOMPARE(agent.errors(), QString());
+}
+
+void TestAgentProgram::jsonPrintsEveryAnswer()
+{
+    const QStringList texts{wakeText, wakeText, normalText, normalText, offText};
+    server->replies = repliesOf(texts);
+    server->onAnswered = [this, &texts](int count) {
+        if (count == texts.size()) {
+            server->stop();
+        }
+    };
+    QVERIFY(server->listen());
+    Agent agent({QStringLiteral("--json"), QStringLiteral("--period"), QStringLiteral("20")});
+    QCOMPARE(agent.exitCode(), 1);
+    QStringList kinds;
+    const QStringList lines = agent.output().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    for (const QString &line : lines) {
+        const auto object = QJsonDocument::fromJson(line.toUtf8()).object();
+        kinds += object.value(QStringLiteral("kind")).toString(QStringLiteral("broken"));
+    }
+    QCOMPARE(kinds.join(QLatin1Char(' ')), QStringLiteral("wake wake normal normal off"));
+}
+
+void TestAgentProgram::periodIsKept()
+{
+    server->replies = repliesOf({normalText});
+    QVERIFY(server->listen());
+    const auto fourPeriods = [this](const QStringList &arguments) {
+        server->times.clear();
+        Agent agent(arguments);
+        const bool came = QTest::qWaitFor([this] { return server->times.size() >= 5; }, longEnough);
+        return came ? server->times.at(4) - server->times.at(0) : -1;
+    };
+    // A busy machine makes connections late, never early by more than a tick.
+    const qint64 usual = fourPeriods({});
+    QVERIFY2(usual > 300, QByteArray::number(usual).constData());
+    const qint64 slow = fourPeriods({QStringLiteral("--period"), QStringLiteral("500")});
+    QVERIFY2(slow > 1800, QByteArray::number(slow).constData());
+    const qint64 fast = fourPeriods({QStringLiteral("--period"), QStringLiteral("5")});
+    QVERIFY2(fast >= 0 && fast < slow, QByteArray::number(fast).constData());
+}
+
+void TestAgentProgram::vanishedServer()
+{
+    server->replies = repliesOf({normalText});
+    server->onAnswered = [this](int count) {
+        if (count == 3) {
+            server->stop();
+        }
+    };
+    QVERIFY(server->listen());
+    Agent agent({});
+    QCOMPARE(agent.exitCode(), 1);
+    QCOMPARE(agent.output(), normalLine);
+    QVERIFY2(agent.errors().startsWith(
+                 QStringLiteral("lumikey-agent: the server at 127.0.0.9:52316 has gone (")),
+             qPrintable(agent.errors()));
+    QCOMPARE(agent.errors().count(QLatin1Char('\n')), 1);
+}
+
+void TestAgentProgram::connectionDroppedByAnEndingServer()
+{
+    server->replies = {{frame(normalText)}, {QByteArray()}};
+    server->onAnswered = [this](int count) {
+        if (count == 2) {
+            server->stop();
+        }
+    };
+    QVERIFY(server->listen());
+    Agent agent({});
+    // The second connection brought nothing, but because the server went, not because it is wrong.
+    QCOMPARE(agent.exitCode(), 1);
+    QVERIFY2(agent.errors().contains(QStringLiteral("has gone")), qPrintable(agent.errors()));
+}
+
+void TestAgentProgram::waitsForTheServer()
+{
+    Agent agent({QStringLiteral("--wait"), QStringLiteral("--once")});
+    QTRY_VERIFY_WITH_TIMEOUT(agent.errors().endsWith(QLatin1Char('\n')), longEnough);
+    QVERIFY(
+        agent.errors().startsWith(QStringLiteral("lumikey-agent: no server at 127.0.0.9:52316 (")));
+    QVERIFY(agent.errors().endsWith(QStringLiteral("; waiting for Lumikey\n")));
+    QTest::qWait(350);
+    QVERIFY(agent.running());
+
+    server->replies = repliesOf({wakeText});
+    QVERIFY(server->listen());
+    QCOMPARE(agent.exitCode(), 0);
+    QCOMPARE(agent.output(), wakeLine);
+    QCOMPARE(agent.errors().count(QLatin1Char('\n')), 1);
+}
+
+void TestAgentProgram::waitsAgainWhenTheServerVanishes()
+{
+    server->replies = repliesOf({normalText});
+    QVERIFY(server->listen());
+    Agent agent({QStringLiteral("--wait"), QStringLiteral("--period"), QStringLiteral("20")});
+    QTRY_COMPARE_WITH_TIMEOUT(agent.output(), normalLine, longEnough);
+
+    server->stop();
+    QTRY_VERIFY_WITH_TIMEOUT(agent.errors().endsWith(QStringLiteral("; waiting for Lumikey\n")),
+                             longEnough);
+    QVERIFY(agent.errors().contains(QStringLiteral("has gone (")));
+    QVERIFY(agent.running());
+
+    // The same lighting again is news after an absence.
+    QVERIFY(server->listen());
+    QTRY_COMPARE_WITH_TIMEOUT(agent.output(), normalLine + normalLine, longEnough);
+    QVERIFY(agent.running());
+    QCOMPARE(agent.errors().count(QLatin1Char('\n')), 1);
+}
+
+QTEST_GUILESS_MAIN(TestAgentProgram)
+
+#include "tst_agentprogram.moc"
