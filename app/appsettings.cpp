@@ -1,0 +1,132 @@
+#include "app/appsettings.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace {
+
+QString workPath(const SettingKey &key)
+{
+    return QStringLiteral("workqueue/") + QLatin1String(key.name);
+}
+
+/// An existing file that cannot be opened: QSettings itself stays silent about it when reading.
+bool isUnreadable(const QString &path)
+{
+    const QFileInfo file(path);
+    return file.exists() && (!file.isFile() || !file.isReadable());
+}
+
+} // namespace
+
+QString settingsPath(const SettingKey &key)
+{
+    return QStringLiteral("settings/") + QLatin1String(key.name);
+}
+
+QVariant inStoredForm(const SettingKey &key, const QVariant &value)
+{
+    switch (key.form) {
+    case StoredForm::Boolean:
+        return value.toBool();
+    case StoredForm::OneOrZero:
+        return value.toBool() ? 1 : 0;
+    case StoredForm::Integer:
+        return value.toInt();
+    case StoredForm::Text:
+        return value.toString();
+    case StoredForm::Bytes:
+        return value.toByteArray();
+    }
+    return value;
+}
+
+QString AppSettings::defaultDocumentsFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+}
+
+AppSettings::AppSettings(const QString &documentsFolder)
+    : documentsDirPath(QDir::toNativeSeparators(documentsFolder))
+    , companyDirPath(documentsDirPath
+                     + QDir::toNativeSeparators(QStringLiteral("/Corvane/Lumikey/")))
+    // The doubled slashes of the two relative paths are part of the names other tools know.
+    , brandingIniPath(QStringLiteral("branding//lumikey_branding.ini"))
+    , settingsIniPath(companyDirPath + QStringLiteral("lumikey.ini"))
+    , workIniPath(QStringLiteral("updates//work.ini"))
+{}
+
+QVariant AppSettings::readSetting(const SettingKey &key) const
+{
+    return readFrom(SettingsFile, settingsIniPath, key);
+}
+
+void AppSettings::writeSetting(const SettingKey &key, const QVariant &value) const
+{
+    const auto settings = openSettings();
+    settings->setValue(settingsPath(key), inStoredForm(key, value));
+    settings->sync();
+    report(SettingsFile, *settings);
+}
+
+QVariant AppSettings::readBranding(const SettingKey &key) const
+{
+    return readFrom(BrandingFile, brandingIniPath, key);
+}
+
+void AppSettings::writeWorkQueue(const SettingKey &key, const QVariant &value) const
+{
+    QSettings settings(workIniPath, QSettings::IniFormat);
+    settings.setValue(workPath(key), inStoredForm(key, value));
+    settings.sync();
+    report(WorkFile, settings);
+}
+
+std::unique_ptr<QSettings> AppSettings::openSettings() const
+{
+    QDir().mkpath(companyDirPath);
+    auto settings = std::make_unique<QSettings>(settingsIniPath, QSettings::IniFormat);
+    report(SettingsFile, *settings);
+    return settings;
+}
+
+QVariant AppSettings::readFrom(File file, const QString &path, const SettingKey &key) const
+{
+    const QSettings settings(path, QSettings::IniFormat);
+    report(file, settings);
+    return settings.value(settingsPath(key), QVariant());
+}
+
+void AppSettings::report(File file, const QSettings &settings) const
+{
+    settings.allKeys(); // parses every section: damage is found now, not after a write
+    QSettings::Status status = settings.status();
+    if (status == QSettings::NoError && isUnreadable(settings.fileName())) {
+        status = QSettings::AccessError;
+    }
+    QSettings::Status &last = reported.at(file);
+    if (status == last) {
+        return;
+    }
+    last = status;
+    if (status == QSettings::NoError) {
+        return;
+    }
+    const char *const trouble =
+        status == QSettings::FormatError ? "Malformed file:" : "Cannot access file:";
+    qDebug().noquote() << trouble << QDir::toNativeSeparators(settings.fileName());
+    if (file == SettingsFile && status == QSettings::FormatError) {
+        keepDamagedSettings();
+    }
+}
+
+void AppSettings::keepDamagedSettings() const
+{
+    // The next write keeps only what could be parsed, so the file as found is put aside first.
+    const QString copy = settingsIniPath + QStringLiteral(".damaged");
+    QFile::remove(copy);
+    QFile::copy(settingsIniPath, copy);
+}

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "app/settingskeys.h"
+
+#include <QSettings>
+#include <QString>
+#include <QVariant>
+
+#include <array>
+#include <memory>
+
+/// The program's three INI files: the user's settings, the read-only branding file and the work
+/// file for the updater. A small value class; whoever needs settings holds one.
+///
+/// Every access opens its file anew and closes it before returning, so each write is on the disk
+/// when the call returns. Nothing is reported to the user: a missing or unreadable file reads as
+/// defaults, a failed write is lost; either leaves one debug line when the file's state changes.
+class AppSettings
+{
+public:
+    /// @param documentsFolder the folder that holds "Corvane/Lumikey/lumikey.ini"; by default the
+    ///        user's documents folder. It need not exist.
+    explicit AppSettings(const QString &documentsFolder = defaultDocumentsFolder());
+
+    /// Paths, with the system's own separators.
+    const QString &documentsDir() const { return documentsDirPath; }
+    const QString &companyDir() const { return companyDirPath; }
+    const QString &settingsIni() const { return settingsIniPath; }
+    /// Relative to the current directory, which start-up makes the program's folder.
+    const QString &brandingIni() const { return brandingIniPath; }
+    const QString &workIni() const { return workIniPath; }
+
+    /// The stored value; an invalid QVariant when the key is missing, which reads as false, 0, ""
+    /// or an empty byte array.
+    QVariant readSetting(const SettingKey &key) const;
+    /// Stores @p value in the key's own form.
+    void writeSetting(const SettingKey &key, const QVariant &value) const;
+    QVariant readBranding(const SettingKey &key) const;
+    void writeWorkQueue(const SettingKey &key, const QVariant &value) const;
+
+    /// The settings file for a caller that keeps it open; its folder is made first.
+    std::unique_ptr<QSettings> openSettings() const;
+
+    static QString defaultDocumentsFolder();
+
+private:
+    enum File { SettingsFile, BrandingFile, WorkFile };
+
+    QVariant readFrom(File file, const QString &path, const SettingKey &key) const;
+    void report(File file, const QSettings &settings) const;
+    void keepDamagedSettings() const;
+
+    QString documentsDirPath;
+    QString companyDirPath;
+    QString brandingIniPath;
+    QString settingsIniPath;
+    QString workIniPath;
+    /// What the log was last told of each file, so that a lasting trouble is one line.
+    mutable std::array<QSettings::Status, 3> reported{};
+};
+
+/// The full name of a key of the settings or branding file ("settings/" + name).
+QString settingsPath(const SettingKey &key);
+
+/// @p value as it is to be stored under @p key: a number for "1"/"0", a bool for "true"/"false".
+QVariant inStoredForm(const SettingKey &key, const QVariant &value);

@@ -1,0 +1,65 @@
+#include "lighting/commandline.h"
+
+#include <QDataStream>
+#include <QIODevice>
+#include <QStringList>
+
+namespace {
+
+/// Four times the same zone word, then the effect word.
+QString uniformLine(quint32 word, const QString &effectWord)
+{
+    const QString zone = wordText(word);
+    return QStringList{zone, zone, zone, zone, effectWord}.join(QLatin1Char(','));
+}
+
+QString normalLine(const LightingState &state)
+{
+    return QStringList{state.leftWord, state.centreWord, state.rightWord, state.stripeWord,
+                       state.effectWord}
+        .join(QLatin1Char(','));
+}
+
+/// The first of two wake lines arms the second, whichever line carried it out.
+WakeSequence afterSending(WakeSequence wake)
+{
+    if (wake.wakeSent) {
+        wake = {false, false, true};
+    }
+    return wake;
+}
+
+} // namespace
+
+LineChoice chooseLine(const LightingState &state, const LineInputs &inputs)
+{
+    WakeSequence wake = inputs.wake;
+    QString line;
+    if (inputs.backlightOff) {
+        line = uniformLine(DeviceWords::lightingOff, QStringLiteral("0"));
+    } else if (inputs.brightness == 0) {
+        line = uniformLine(DeviceWords::lightingOff, state.effectWord);
+    } else if (wake.wakePending) {
+        line = uniformLine(DeviceWords::wake, QStringLiteral("0"));
+        wake.wakePending = false;
+        wake.wakeSent = true;
+    } else if (wake.wakeRepeat) {
+        line = uniformLine(DeviceWords::wake, QStringLiteral("0"));
+        wake.wakeSent = false;
+        wake.wakeRepeat = false;
+    } else {
+        line = normalLine(state);
+    }
+    return {line, afterSending(wake)};
+}
+
+QByteArray frameLine(const QString &line)
+{
+    QByteArray block;
+    QDataStream stream(&block, QIODevice::WriteOnly);
+    stream.setVersion(QDataStream::Qt_4_0);
+    stream << quint16(0) << line;
+    stream.device()->seek(0);
+    stream << static_cast<quint16>(block.size() - static_cast<int>(sizeof(quint16)));
+    return block;
+}

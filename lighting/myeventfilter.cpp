@@ -1,0 +1,7 @@
+#include "lighting/myeventfilter.h"
+
+bool MyEventFilter::nativeEventFilter(const QByteArray & /*eventType*/, void * /*message*/,
+                                      long * /*result*/)
+{
+    return false;
+}

@@ -1,0 +1,298 @@
+#include "app/appsettings.h"
+#include "tests/support/guitest.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+Q_DECLARE_METATYPE(SettingKey)
+
+class TestAppSettings : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void paths();
+    void defaultFolderIsTheDocuments();
+    void missingKeysReadAsNothing();
+    void storedForms_data();
+    void storedForms();
+    void bytesComeBack();
+    void startHiddenIsANumberThatReadsAsBoolean();
+    void folderIsMadeBeforeTheFirstWrite();
+    void everyWriteIsOnDiskAtOnce();
+    void foreignKeysStay();
+    void branding();
+    void missingBranding();
+    void workQueue();
+    void badSettings_data();
+    void badSettings();
+    void damagedFileIsPutAside();
+    void directoryInPlaceOfTheFile();
+    void fileInPlaceOfTheFolder();
+    void troubleIsLoggedOnce();
+    void badBrandingIsLeftAlone();
+
+private:
+    QByteArray settingsText() const { return readFile(settings->settingsIni()); }
+
+    std::unique_ptr<QTemporaryDir> folder;
+    std::unique_ptr<AppSettings> settings;
+    QString startDirectory;
+};
+
+void TestAppSettings::init()
+{
+    folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(folder->isValid());
+    startDirectory = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(folder->path()));
+    settings = std::make_unique<AppSettings>(folder->filePath(QStringLiteral("Documents")));
+}
+
+void TestAppSettings::cleanup()
+{
+    QVERIFY(QDir::setCurrent(startDirectory));
+    settings.reset();
+    folder.reset();
+}
+
+void TestAppSettings::paths()
+{
+    const QString documents = folder->filePath(QStringLiteral("Documents"));
+    QCOMPARE(settings->documentsDir(), QDir::toNativeSeparators(documents));
+    QCOMPARE(settings->companyDir(),
+             QDir::toNativeSeparators(documents + QStringLiteral("/Corvane/Lumikey/")));
+    QCOMPARE(settings->settingsIni(),
+             QDir::toNativeSeparators(documents + QStringLiteral("/Corvane/Lumikey/lumikey.ini")));
+    QCOMPARE(settings->brandingIni(), QStringLiteral("branding//lumikey_branding.ini"));
+    QCOMPARE(settings->workIni(), QStringLiteral("updates//work.ini"));
+}
+
+void TestAppSettings::defaultFolderIsTheDocuments()
+{
+    QCOMPARE(AppSettings().documentsDir(),
+             QDir::toNativeSeparators(
+                 QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)));
+}
+
+void TestAppSettings::missingKeysReadAsNothing()
+{
+    QVERIFY(!settings->readSetting(SettingKeys::backlightOn).toBool());
+    QCOMPARE(settings->readSetting(SettingKeys::brightLevel).toInt(), 0);
+    QCOMPARE(settings->readSetting(SettingKeys::leftColour).toString(), QString());
+    QVERIFY(settings->readSetting(SettingKeys::mainWindowGeometry).toByteArray().isEmpty());
+    QVERIFY(!QFileInfo::exists(settings->companyDir())); // reading makes nothing
+}
+
+void TestAppSettings::storedForms_data()
+{
+    QTest::addColumn<SettingKey>("key");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QByteArray>("line");
+    const auto row = [](const SettingKey &key, const QVariant &value, const char *line) {
+        QTest::newRow(line) << key << value << QByteArray(line);
+    };
+    row(SettingKeys::appUrl, QStringLiteral("/opt/Lumikey"), "appurl=/opt/Lumikey");
+    row(SettingKeys::startHidden, true, "start_hidden=1");
+    row(SettingKeys::startHidden, false, "start_hidden=0");
+    row(SettingKeys::mainWindowGeometry, QByteArray("\1\2"),
+        "mainWindowGeometry=@ByteArray(\\x1\\x2)");
+    row(SettingKeys::mainWindowState, QByteArray(), "mainWindowState=@ByteArray()");
+    row(SettingKeys::minimizeClose, true, "minimize_close=true");
+    row(SettingKeys::stripeOption, 1, "P751LEDStripe=true");
+    row(SettingKeys::perKey, false, "PerKey=false");
+    row(SettingKeys::backlightOn, 1, "backlight_on=true");
+    row(SettingKeys::backlightOff, 0, "backlight_off=false");
+    row(SettingKeys::brightLevel, 73, "brightlevel=73");
+    row(SettingKeys::dimTimer, 8, "dimtimer=8");
+    row(SettingKeys::autoDim, true, "AutoDim=true");
+    row(SettingKeys::touchWake, false, "touchwake=false");
+    row(SettingKeys::effects, 7, "effects=7");
+    row(SettingKeys::leftColour, QStringLiteral("255 0 0"), "Zone1Color=255 0 0");
+    row(SettingKeys::centreColour, QStringLiteral("0 255 0"), "Zone2Color=0 255 0");
+    row(SettingKeys::rightColour, QStringLiteral("0 0 255"), "Zone3Color=0 0 255");
+    row(SettingKeys::singleColour, QStringLiteral("1 2 3"), "Zone4Color=1 2 3");
+    row(SettingKeys::singleColourLast, true, "singlecolorselectedlast=true");
+    row(SettingKeys::stripeLid, QString(), "StripeLid=");
+}
+
+void TestAppSettings::storedForms()
+{
+    QFETCH(SettingKey, key);
+    QFETCH(QVariant, value);
+    QFETCH(QByteArray, line);
+    settings->writeSetting(key, value);
+    QByteArray text = settingsText();
+    text.replace("\r\n", "\n");
+    QCOMPARE(text, "[settings]\n" + line + '\n');
+    QCOMPARE(settings->readSetting(key).toString(), inStoredForm(key, value).toString());
+}
+
+void TestAppSettings::bytesComeBack()
+{
+    QByteArray bytes;
+    for (int i = 0; i < 256; ++i) {
+        bytes += static_cast<char>(i);
+    }
+    settings->writeSetting(SettingKeys::mainWindowGeometry, bytes);
+    QCOMPARE(settings->readSetting(SettingKeys::mainWindowGeometry).toByteArray(), bytes);
+}
+
+void TestAppSettings::startHiddenIsANumberThatReadsAsBoolean()
+{
+    for (const bool hidden : {true, false}) {
+        settings->writeSetting(SettingKeys::startHidden, hidden);
+        QCOMPARE(settings->readSetting(SettingKeys::startHidden).toBool(), hidden);
+    }
+}
+
+void TestAppSettings::folderIsMadeBeforeTheFirstWrite()
+{
+    QVERIFY(!QFileInfo::exists(settings->companyDir()));
+    settings->writeSetting(SettingKeys::brightLevel, 5);
+    QVERIFY(QFileInfo(settings->settingsIni()).isFile());
+    QDir(folder->path()).remove(QStringLiteral("Documents"));
+}
+
+void TestAppSettings::everyWriteIsOnDiskAtOnce()
+{
+    for (const int level : {1, 2, 100}) {
+        settings->writeSetting(SettingKeys::brightLevel, level);
+        QVERIFY(settingsText().contains("brightlevel=" + QByteArray::number(level)));
+    }
+}
+
+void TestAppSettings::foreignKeysStay()
+{
+    writeFile(settings->settingsIni(), "[settings]\nother=7\n\n[strange]\nkey=\"a, b\"\n");
+    settings->writeSetting(SettingKeys::brightLevel, 5);
+    QVERIFY(settingsText().contains("other=7"));
+    QVERIFY(settingsText().contains("[strange]"));
+    QVERIFY(settingsText().contains("brightlevel=5"));
+}
+
+void TestAppSettings::branding()
+{
+    writeFile(QStringLiteral("branding/lumikey_branding.ini"),
+              "[settings]\nappname=Night Light\nhighlightcolor_RED=1\nhighlightcolor_GREEN=22\n"
+              "highlightcolor_BLUE=255\n");
+    QCOMPARE(settings->readBranding(BrandingKeys::appName).toString(),
+             QStringLiteral("Night Light"));
+    QCOMPARE(settings->readBranding(BrandingKeys::highlightRed).toInt(), 1);
+    QCOMPARE(settings->readBranding(BrandingKeys::highlightGreen).toInt(), 22);
+    QCOMPARE(settings->readBranding(BrandingKeys::highlightBlue).toInt(), 255);
+}
+
+void TestAppSettings::missingBranding()
+{
+    QCOMPARE(settings->readBranding(BrandingKeys::appName).toString(), QString());
+    QCOMPARE(settings->readBranding(BrandingKeys::highlightBlue).toInt(), 0);
+}
+
+void TestAppSettings::workQueue()
+{
+    QVERIFY(QDir().mkdir(QStringLiteral("updates")));
+    settings->writeWorkQueue(WorkKeys::updatePending, true);
+    QVERIFY(readFile(QStringLiteral("updates/work.ini")).startsWith("[workqueue]"));
+    QVERIFY(readFile(QStringLiteral("updates/work.ini")).contains("Lumikey=true"));
+    settings->writeWorkQueue(WorkKeys::updatePending, false);
+    QVERIFY(readFile(QStringLiteral("updates/work.ini")).contains("Lumikey=false"));
+}
+
+void TestAppSettings::badSettings_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("binary") << QByteArray("\0\1\2\xff\xfe[=\n]]\0=", 12);
+    QTest::newRow("not an INI file") << QByteArray("<html>\n<body>oops\n");
+    QTest::newRow("section never closed") << QByteArray("[settings\neffects=9\n");
+    QTest::newRow("wrong types") << QByteArray(
+        "[settings]\nbacklight_on=maybe@(\nbrightlevel=@Point(1 2)\n"
+        "mainWindowGeometry=@Rect(0 0 1 1)\nZone1Color=@Variant(\\0\\0)\n");
+    QTest::newRow("half a line") << QByteArray("[settings]\nbacklight_on=true\nbrightle");
+    QTest::newRow("half a byte array")
+        << QByteArray("[settings]\nmainWindowGeometry=@ByteArray(\\x1\\xd9\\xd");
+    QTest::newRow("one long line") << QByteArray(1 << 20, 'x');
+}
+
+void TestAppSettings::badSettings()
+{
+    QFETCH(QByteArray, content);
+    writeFile(settings->settingsIni(), content);
+    QCOMPARE(settings->readSetting(SettingKeys::brightLevel).toInt(), 0);
+    QCOMPARE(readFile(settings->settingsIni()), content); // reading changes nothing
+    settings->writeSetting(SettingKeys::brightLevel, 42);
+    QCOMPARE(settings->readSetting(SettingKeys::brightLevel).toInt(), 42);
+    QVERIFY(settingsText().contains("brightlevel=42"));
+}
+
+void TestAppSettings::damagedFileIsPutAside()
+{
+    const QByteArray content("[settings]\nZone1Color=1 2 3\nbrightle");
+    writeFile(settings->settingsIni(), content);
+    settings->writeSetting(SettingKeys::effects, 3);
+    QCOMPARE(settings->readSetting(SettingKeys::leftColour).toString(), QStringLiteral("1 2 3"));
+    QCOMPARE(readFile(settings->settingsIni() + QStringLiteral(".damaged")), content);
+}
+
+void TestAppSettings::directoryInPlaceOfTheFile()
+{
+    QVERIFY(QDir().mkpath(settings->settingsIni() + QStringLiteral("/inner")));
+    QCOMPARE(settings->readSetting(SettingKeys::effects).toInt(), 0);
+    settings->writeSetting(SettingKeys::effects, 3);
+    QVERIFY(QFileInfo(settings->settingsIni() + QStringLiteral("/inner")).isDir());
+}
+
+void TestAppSettings::fileInPlaceOfTheFolder()
+{
+    const QString blocked = folder->filePath(QStringLiteral("Documents/Corvane"));
+    writeFile(blocked, "keep me");
+    QCOMPARE(settings->readSetting(SettingKeys::effects).toInt(), 0);
+    settings->writeSetting(SettingKeys::effects, 3);
+    QCOMPARE(readFile(blocked), QByteArray("keep me"));
+
+    QVERIFY(QFile::remove(blocked)); // and it works again as soon as it can
+    settings->writeSetting(SettingKeys::effects, 4);
+    QCOMPARE(settings->readSetting(SettingKeys::effects).toInt(), 4);
+}
+
+void TestAppSettings::troubleIsLoggedOnce()
+{
+    static QStringList log;
+    log.clear();
+    QVERIFY(QDir().mkpath(settings->settingsIni()));
+    const QtMessageHandler before =
+        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
+            log << QString::number(type) + QLatin1Char(' ') + text;
+        });
+    for (int i = 0; i < 5; ++i) {
+        settings->readSetting(SettingKeys::effects);
+        settings->writeSetting(SettingKeys::effects, i);
+    }
+    qInstallMessageHandler(before);
+    QCOMPARE(log, QStringList(QStringLiteral("%1 Cannot access file: %2")
+                                  .arg(QtDebugMsg)
+                                  .arg(settings->settingsIni())));
+}
+
+void TestAppSettings::badBrandingIsLeftAlone()
+{
+    const QByteArray content("half a li");
+    writeFile(QStringLiteral("branding/lumikey_branding.ini"), content);
+    QTest::ignoreMessage(QtDebugMsg,
+                         QRegularExpression(QStringLiteral("^Malformed file: .*branding.ini$")));
+    QCOMPARE(settings->readBranding(BrandingKeys::appName).toString(), QString());
+    QCOMPARE(readFile(QStringLiteral("branding/lumikey_branding.ini")), content);
+    QCOMPARE(QDir(QStringLiteral("branding")).entryList(QDir::Files).size(), 1);
+}
+
+QTEST_GUILESS_MAIN(TestAppSettings)
+#include "tst_appsettings.moc"

@@ -1,0 +1,55 @@
+#include "system/desktopentry.h"
+
+#include <QTest>
+
+class TestDesktopEntry : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void pathComesBack_data();
+    void pathComesBack();
+    void execLine_data();
+    void execLine();
+};
+
+void TestDesktopEntry::pathComesBack_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("plain") << QStringLiteral("/opt/lumikey/Lumikey");
+    QTest::newRow("blank") << QStringLiteral("/opt/my lights/Lumikey");
+    QTest::newRow("percent") << QStringLiteral("/opt/100%/%u/Lumikey");
+    QTest::newRow("quotes") << QStringLiteral("/opt/\"a\"`b`$c\\d/Lumikey");
+    QTest::newRow("non-ASCII") << QStringLiteral("/opt/Lämpchen/Lumikey");
+}
+
+void TestDesktopEntry::pathComesBack()
+{
+    QFETCH(QString, path);
+    const QByteArray entry = DesktopEntry::write(QStringLiteral("Lumikey"), path);
+    QVERIFY(entry.startsWith("[Desktop Entry]\nType=Application\nName=Lumikey\nExec=\""));
+    QCOMPARE(DesktopEntry::execPath(entry), path);
+}
+
+void TestDesktopEntry::execLine_data()
+{
+    QTest::addColumn<QByteArray>("entry");
+    QTest::addColumn<QString>("path");
+    QTest::newRow("unquoted, arguments")
+        << QByteArray("[Desktop Entry]\nExec=/usr/bin/Lumikey --x\n")
+        << QStringLiteral("/usr/bin/Lumikey");
+    QTest::newRow("escaped dollar") << QByteArray("Exec=\"/a\\\\$b\"\n") << QStringLiteral("/a$b");
+    QTest::newRow("none") << QByteArray("[Desktop Entry]\nName=Lumikey\n") << QString();
+    QTest::newRow("empty file") << QByteArray() << QString();
+    QTest::newRow("open quote") << QByteArray("Exec=\"/a b") << QStringLiteral("/a b");
+    QTest::newRow("backslash at the end") << QByteArray("Exec=\"/a\\") << QStringLiteral("/a");
+}
+
+void TestDesktopEntry::execLine()
+{
+    QFETCH(QByteArray, entry);
+    QTEST(DesktopEntry::execPath(entry), "path");
+}
+
+QTEST_GUILESS_MAIN(TestDesktopEntry)
+#include "tst_desktopentry.moc"
