@@ -1,0 +1,77 @@
+#include "colorpicker/colorsample.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr QColor restingFrame{80, 80, 80, 200};
+constexpr QColor hoveredFrame{30, 30, 30, 220};
+
+} // namespace
+
+ColorSample::ColorSample(QWidget *parent)
+    : ColorWidget(parent)
+{
+    frameColor = restingFrame;
+}
+
+void ColorSample::changeColor(const QColor &color)
+{
+    currentColor = color;
+    update();
+    emit colorChanged(color);
+}
+
+void ColorSample::mouseMovedOnWindow()
+{
+    windowDragged = true;
+}
+
+void ColorSample::mouseReleasedOnWindow()
+{
+    windowDragged = false;
+}
+
+void ColorSample::enterEvent(QEvent *)
+{
+    frameColor = hoveredFrame;
+    setCursor(Qt::PointingHandCursor);
+    update();
+}
+
+void ColorSample::leaveEvent(QEvent *)
+{
+    frameColor = restingFrame;
+    setCursor(Qt::ArrowCursor);
+    update();
+}
+
+void ColorSample::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::MiddleButton) {
+        emit samplePressedMiddle();
+        event->accept();
+        return;
+    }
+    if (!windowDragged) {
+        if (event->button() == Qt::LeftButton) {
+            emit samplePressedLeft();
+        } else if (event->button() == Qt::RightButton) {
+            emit samplePressedRight();
+        }
+    }
+    windowDragged = false;
+    event->ignore();
+}
+
+void ColorSample::paintEvent(QPaintEvent *)
+{
+    using namespace PickerGeometry;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(currentColor);
+    painter.drawRect(margin, margin, width() - 2 * margin, height() - 2 * margin);
+    drawFrame(painter, rect(), frameWidth, cornerRadius, frameColor);
+}

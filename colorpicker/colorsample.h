@@ -1,0 +1,36 @@
+#pragma once
+
+#include "colorpicker/colorwidget.h"
+
+/// Swatch of the chosen colour. A click is announced, so that the window can copy the colour; the
+/// end of a window drag that happens to be over the swatch is not a click.
+class ColorSample : public ColorWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ColorSample(QWidget *parent = nullptr);
+
+signals:
+    void colorChanged(QColor color);
+    void samplePressedLeft();
+    void samplePressedRight();
+    void samplePressedMiddle();
+
+public slots:
+    /// Shows @p color and announces it.
+    void changeColor(const QColor &color);
+    /// The frameless window is being dragged: the release to come is not a click.
+    void mouseMovedOnWindow();
+    /// The drag of the window is over.
+    void mouseReleasedOnWindow();
+
+protected:
+    void enterEvent(QEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    bool windowDragged = false;
+};

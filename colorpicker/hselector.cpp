@@ -1,0 +1,119 @@
+#include "colorpicker/hselector.h"
+
+#include "colorpicker/pickerpalette.h"
+
+#include <QLinearGradient>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+using namespace PickerGeometry;
+
+HSelector::HSelector(QWidget *parent)
+    : ColorWidget(parent)
+{}
+
+void HSelector::setHue(int degrees)
+{
+    const int stored = currentHue == hueRange ? 0 : currentHue;
+    if (degrees == stored) {
+        return;
+    }
+    const QColor color = hsv(degrees, currentSaturation, currentValue);
+    if (color.hue() == stored) {
+        return;
+    }
+    currentHue = color.hue();
+    currentColor = color;
+    emit hueChanged(color);
+    update();
+}
+
+void HSelector::mousePressEvent(QMouseEvent *event)
+{
+    if (takeMiddlePress(event)) {
+        return;
+    }
+    marker.setY(event->pos().y());
+    recompute();
+}
+
+void HSelector::mouseMoveEvent(QMouseEvent *event)
+{
+    if (middlePressed) {
+        return;
+    }
+    marker.setY(event->pos().y());
+    recompute();
+}
+
+void HSelector::mouseReleaseEvent(QMouseEvent *event)
+{
+    takeRelease(event);
+}
+
+void HSelector::wheelEvent(QWheelEvent *event)
+{
+    const int delta = event->angleDelta().y();
+    marker.setY(markerOfHue(currentHue)); // as drawn, also when nothing was drawn since the change
+    if (delta > 0) {
+        marker.ry() -= wheelStep(event);
+    } else if (delta < 0) {
+        marker.ry() += wheelStep(event);
+    }
+    recompute();
+    event->accept();
+}
+
+void HSelector::recompute()
+{
+    currentHue = hueAt(marker.y());
+    currentColor = hsv(currentHue, currentSaturation, currentValue);
+    emit hueChanged(currentColor);
+    update();
+}
+
+void HSelector::drawStrip(int stripHeight)
+{
+    cachePixmap = QPixmap(stripWidth, stripHeight);
+    QLinearGradient gradient(0, margin, 0, height() - margin);
+    QGradientStops stops;
+    for (int i = 0; i < hueRange; ++i) {
+        QColor color;
+        color.setHsvF(i * hueStep, stripSaturation, stripValue, 1.0);
+        stops.append({i * hueStep, color});
+    }
+    gradient.setStops(stops);
+    QPainter painter(&cachePixmap);
+    painter.setPen(Qt::NoPen);
+    painter.fillRect(cachePixmap.rect(), gradient);
+    cacheValid = true;
+}
+
+void HSelector::paintEvent(QPaintEvent *)
+{
+    const int stripHeight = height() - 2 * margin;
+    if (stripHeight <= 0) {
+        return;
+    }
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (!cacheValid || cachePixmap.height() != stripHeight) {
+        drawStrip(stripHeight);
+    }
+    painter.drawPixmap(pixmapOrigin, cachePixmap);
+
+    marker.setY(markerOfHue(currentHue));
+    const int tip = width() - arrowLength;
+    const int edge = width();
+    const int y = marker.y();
+    const QPolygon arrow({QPoint(tip, y + arrowTipHalfHeight), QPoint(tip, y - arrowTipHalfHeight),
+                          QPoint(edge, y - arrowBaseHalfHeight),
+                          QPoint(edge, y + arrowBaseHalfHeight)});
+    painter.setPen(QPen(Qt::NoBrush, 1, Qt::NoPen, Qt::FlatCap));
+    painter.setBrush(PickerPalette::marker);
+    painter.drawPolygon(arrow);
+
+    drawFrame(painter, QRect(pixmapOrigin, QSize(stripWidth, stripHeight)), frameWidth,
+              cornerRadius, frameColor);
+}

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QColor>
+
+/// Greys of the picker.
+namespace PickerPalette {
+
+constexpr QColor outline{0xdd, 0xdd, 0xdd}; ///< "#ddd", around the ring
+constexpr QColor marker{0x33, 0x33, 0x33};  ///< "#333", inside arrow and ring
+constexpr QColor middle{0x55, 0x55, 0x55};  ///< "#555"
+
+} // namespace PickerPalette

@@ -1,0 +1,5 @@
+#include "colorpicker/vars.h"
+
+Vars::Vars(QObject *parent)
+    : QObject(parent)
+{}
