@@ -1,0 +1,278 @@
+#include "tests/support/guitest.h"
+#include "ui/darkstyle.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QPalette>
+#include <QPointer>
+#include <QProcess>
+#include <QPushButton>
+#include <QScopeGuard>
+#include <QStyleFactory>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <array>
+#include <memory>
+
+namespace {
+
+constexpr const char *firstStyleWins = "--first-style-wins";
+
+const QString sheetResource = QStringLiteral(":/darkstyle/darkstyle.qss");
+
+/// What a polished palette holds; the highlight is the one of brandingText.
+struct PaletteEntry
+{
+    QPalette::ColorRole role;
+    QRgb enabled;
+    QRgb disabled;
+};
+
+constexpr const char *brandingText = "[settings]\nhighlightcolor_RED=12\nhighlightcolor_GREEN=134\n"
+                                     "highlightcolor_BLUE=56\n";
+
+constexpr QRgb white = qRgb(255, 255, 255);
+constexpr QRgb grey = qRgb(127, 127, 127);
+
+constexpr std::array paletteEntries{
+    PaletteEntry{QPalette::Window, qRgb(48, 48, 48), qRgb(48, 48, 48)},
+    PaletteEntry{QPalette::WindowText, white, grey},
+    PaletteEntry{QPalette::Base, qRgb(42, 42, 42), qRgb(42, 42, 42)},
+    PaletteEntry{QPalette::AlternateBase, qRgb(66, 66, 66), qRgb(66, 66, 66)},
+    PaletteEntry{QPalette::ToolTipBase, white, white},
+    PaletteEntry{QPalette::ToolTipText, qRgb(53, 53, 53), qRgb(53, 53, 53)},
+    PaletteEntry{QPalette::Text, white, grey},
+    PaletteEntry{QPalette::Dark, qRgb(40, 40, 40), qRgb(40, 40, 40)},
+    PaletteEntry{QPalette::Shadow, qRgb(15, 15, 15), qRgb(15, 15, 15)},
+    PaletteEntry{QPalette::Button, qRgb(56, 56, 56), qRgb(56, 56, 56)},
+    PaletteEntry{QPalette::ButtonText, white, grey},
+    PaletteEntry{QPalette::BrightText, qRgb(255, 0, 0), qRgb(255, 0, 0)},
+    PaletteEntry{QPalette::Link, qRgb(42, 130, 218), qRgb(42, 130, 218)},
+    PaletteEntry{QPalette::Highlight, qRgb(12, 134, 56), qRgb(80, 80, 80)},
+    PaletteEntry{QPalette::HighlightedText, white, grey},
+};
+
+} // namespace
+
+class TestDarkStyle : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void paletteRow_data();
+    void paletteRow();
+    void rolesOutsideTheTableStay();
+    void missingBrandingGivesBlack();
+    void brandingIsReadAtEachPolish();
+
+    void baseStyleIsFusionAndStays();
+    void firstGivenStyleWins();
+    void stylesComeAndGo_data();
+    void stylesComeAndGo();
+    void applicationStylesReplaceEachOther();
+
+    void pixelSizeStands();
+    void pointSizeGrowsByOne();
+    void polishSetsTheSheet();
+    void polishWithoutApplication();
+
+private:
+    std::unique_ptr<QTemporaryDir> folder;
+    QString startFolder = QDir::currentPath();
+    QStyle *installed = nullptr; ///< the application owns it
+};
+
+void TestDarkStyle::init()
+{
+    folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(folder->isValid());
+    QVERIFY(QDir::setCurrent(folder->path()));
+}
+
+void TestDarkStyle::cleanup()
+{
+    QDir::setCurrent(startFolder);
+}
+
+void TestDarkStyle::paletteRow_data()
+{
+    QTest::addColumn<QPalette::ColorRole>("role");
+    QTest::addColumn<QRgb>("enabled");
+    QTest::addColumn<QRgb>("disabled");
+    const auto roles = QMetaEnum::fromType<QPalette::ColorRole>();
+    for (const PaletteEntry &entry : paletteEntries) {
+        QTest::newRow(roles.valueToKey(entry.role))
+            << entry.role << entry.enabled << entry.disabled;
+    }
+}
+
+void TestDarkStyle::paletteRow()
+{
+    QFETCH(QPalette::ColorRole, role);
+    QFETCH(QRgb, enabled);
+    QFETCH(QRgb, disabled);
+    writeFile(QStringLiteral("branding/lumikey_branding.ini"), brandingText);
+
+    QPalette palette(QColor(1, 2, 3));
+    DarkStyle style;
+    style.polish(palette);
+
+    QCOMPARE(palette.color(QPalette::Active, role), QColor(enabled));
+    QCOMPARE(palette.color(QPalette::Inactive, role), QColor(enabled));
+    QCOMPARE(palette.color(QPalette::Disabled, role), QColor(disabled));
+}
+
+void TestDarkStyle::rolesOutsideTheTableStay()
+{
+    QPalette palette;
+    palette.setColor(QPalette::LinkVisited, QColor(1, 2, 3));
+    palette.setColor(QPalette::Light, QColor(4, 5, 6));
+    DarkStyle().polish(palette);
+    QCOMPARE(palette.color(QPalette::LinkVisited), QColor(1, 2, 3));
+    QCOMPARE(palette.color(QPalette::Light), QColor(4, 5, 6));
+}
+
+void TestDarkStyle::missingBrandingGivesBlack()
+{
+    QPalette palette;
+    DarkStyle().polish(palette);
+    QCOMPARE(palette.color(QPalette::Active, QPalette::Highlight), QColor(Qt::black));
+    QCOMPARE(palette.color(QPalette::Disabled, QPalette::Highlight), QColor(80, 80, 80));
+}
+
+void TestDarkStyle::brandingIsReadAtEachPolish()
+{
+    DarkStyle style;
+    QPalette palette;
+    style.polish(palette);
+    QCOMPARE(palette.color(QPalette::Highlight), QColor(Qt::black));
+    writeFile(QStringLiteral("branding/lumikey_branding.ini"), brandingText);
+    style.polish(palette);
+    QCOMPARE(palette.color(QPalette::Highlight), QColor(12, 134, 56));
+}
+
+void TestDarkStyle::baseStyleIsFusionAndStays()
+{
+    QStyle *const base = DarkStyle::sharedBaseStyle();
+    QCOMPARE(base->metaObject()->className(), "QFusionStyle");
+    const std::unique_ptr<QStyle> late(QStyleFactory::create(QStringLiteral("Windows")));
+    QCOMPARE(DarkStyle::sharedBaseStyle(late.get()), base);
+}
+
+void TestDarkStyle::firstGivenStyleWins()
+{
+    QCOMPARE(
+        QProcess::execute(QCoreApplication::applicationFilePath(), {QLatin1String(firstStyleWins)}),
+        0);
+}
+
+void TestDarkStyle::stylesComeAndGo_data()
+{
+    QTest::addColumn<QVector<int>>("order");
+    for (const QVector<int> &order : {QVector<int>{0, 1, 2}, {2, 1, 0}, {1, 0, 2}, {1, 2, 0}}) {
+        QTest::addRow("%d%d%d", order[0], order[1], order[2]) << order;
+    }
+}
+
+void TestDarkStyle::stylesComeAndGo()
+{
+    QFETCH(QVector<int>, order);
+    const QPointer<QStyle> base = DarkStyle::sharedBaseStyle();
+
+    std::array<std::unique_ptr<DarkStyle>, 3> styles;
+    for (auto &style : styles) {
+        style = std::make_unique<DarkStyle>();
+    }
+    for (const int index : order) {
+        styles.at(std::size_t(index)).reset();
+        QVERIFY(base);
+        // Whoever is left draws: its base style must not call back into a style that is gone.
+        for (const auto &style : styles) {
+            if (!style) {
+                continue;
+            }
+            QCOMPARE(style->baseStyle(), base.data());
+            QPushButton button(QStringLiteral("drawn"));
+            button.setStyle(style.get());
+            QVERIFY(!button.grab().isNull());
+            QVERIFY(style->pixelMetric(QStyle::PM_IndicatorWidth) > 0);
+        }
+    }
+    // Deferred deletions of the base style would run now.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(base);
+    QVERIFY(base->pixelMetric(QStyle::PM_IndicatorWidth) > 0);
+}
+
+void TestDarkStyle::applicationStylesReplaceEachOther()
+{
+    const QPointer<QStyle> base = DarkStyle::sharedBaseStyle();
+    QPushButton button(QStringLiteral("shown"));
+    for (int i = 0; i < 3; ++i) {
+        installed = new DarkStyle;
+        QApplication::setStyle(installed);
+        QVERIFY(base);
+        QVERIFY(!button.grab().isNull());
+        QCOMPARE(QApplication::palette().color(QPalette::Window), QColor(48, 48, 48));
+    }
+}
+
+void TestDarkStyle::pixelSizeStands()
+{
+    const auto restore =
+        qScopeGuard([font = QApplication::font()] { QApplication::setFont(font); });
+    QFont font = QApplication::font();
+    font.setPixelSize(17);
+    QApplication::setFont(font);
+    DarkStyle().polish(qApp);
+    QCOMPARE(QApplication::font().pixelSize(), 17);
+    QCOMPARE(QApplication::font().pointSize(), -1);
+}
+
+void TestDarkStyle::pointSizeGrowsByOne()
+{
+    const auto restore =
+        qScopeGuard([font = QApplication::font()] { QApplication::setFont(font); });
+    QFont font = QApplication::font();
+    font.setPointSize(9);
+    QApplication::setFont(font);
+    DarkStyle style;
+    style.polish(qApp);
+    QCOMPARE(QApplication::font().pointSize(), 10);
+    style.polish(qApp);
+    QCOMPARE(QApplication::font().pointSize(), 11);
+}
+
+void TestDarkStyle::polishSetsTheSheet()
+{
+    qApp->setStyleSheet(QString());
+    DarkStyle().polish(qApp);
+    QCOMPARE(qApp->styleSheet().toLatin1().replace('\n', "\r\n"), readFile(sheetResource));
+}
+
+void TestDarkStyle::polishWithoutApplication()
+{
+    const QFont font = QApplication::font();
+    DarkStyle().polish(static_cast<QApplication *>(nullptr));
+    QCOMPARE(QApplication::font(), font);
+}
+
+int main(int argc, char *argv[])
+{
+    QApplication app(argc, argv);
+    if (app.arguments().contains(QLatin1String(firstStyleWins))) {
+        QStyle *const given = QStyleFactory::create(QStringLiteral("Windows"));
+        const bool kept =
+            DarkStyle::sharedBaseStyle(given) == given && DarkStyle::sharedBaseStyle() == given
+            && DarkStyle().baseStyle() == given && DarkStyle::sharedBaseStyle() == given;
+        return kept ? 0 : 1;
+    }
+    TestDarkStyle test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_darkstyle.moc"

@@ -1,0 +1,202 @@
+#include "tests/support/guitest.h"
+#include "ui/darkstyle.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QRegularExpression>
+#include <QResource>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QtTest>
+
+#include <array>
+
+namespace {
+
+const QString sheetResource = QStringLiteral(":/darkstyle/darkstyle.qss");
+
+struct Rule
+{
+    const char *selector;
+    const char *declaration; ///< part of one
+};
+
+constexpr std::array rules{
+    Rule{"#colorpick1", "border-image: url(branding/colorpick.png)"},
+    Rule{"#colorpick2", "border-image: url(branding/colorpick.png)"},
+    Rule{"#colorpick3", "border-image: url(branding/colorpick.png)"},
+    Rule{"#colorpick4", "border-image: url(branding/colorpick.png)"},
+    Rule{"#colorpick5", "border-image: url(branding/colorpick.png)"},
+    Rule{"#colorpick5_3", "border-image: url(branding/colorpick.png)"},
+    Rule{"#stripe_led", "border-image: url(branding/stripe_lidled.png)"},
+    Rule{"#stripe_led_2", "border-image: url(branding/lumikey_icon.png)"},
+    Rule{"#keyboard_full", "border-image: url(branding/keyboard_full.png)"},
+    Rule{"#keyboard_left", "border-image: url(branding/keyboard_left.png)"},
+    Rule{"#keyboard_left_2", "border-image: url(branding/keyboard_left.png)"},
+    Rule{"#keyboard_center", "border-image: url(branding/keyboard_center.png)"},
+    Rule{"#keyboard_center_2", "border-image: url(branding/keyboard_center.png)"},
+    Rule{"#keyboard_right", "border-image: url(branding/keyboard_right.png)"},
+    Rule{"#keyboard_right_2", "border-image: url(branding/keyboard_right.png)"},
+    Rule{"#minimizeButton", "border-image: url(branding/minimize.png)"},
+    Rule{"#minimizeButton:hover", "border-image: url(branding/minimize_focus.png)"},
+    Rule{"#closeButton", "border-image: url(branding/close.png)"},
+    Rule{"#closeButton:hover", "border-image: url(branding/close_focus.png)"},
+    Rule{"#closeButton", "background-color: transparent"},
+    Rule{"#keyboard_full", "background-repeat: no-repeat"},
+    Rule{"#colorpick5_3", "border: none"},
+    Rule{"QMessageBox", "border: 2px solid #212121"},
+    Rule{"QMainWindow", "border: 1px solid #272727"},
+    Rule{"#frame", "background-color: rgba(73, 73, 73, 127)"},
+    Rule{"#frame_2", "border: 1px solid rgba(5, 5, 5, 127)"},
+    Rule{"QMenuBar", "rgba(25, 25, 25, 127)"},
+    Rule{"QToolBar", "rgba(25, 25, 25, 127)"},
+    Rule{"QDockWidget::title", "rgba(25, 25, 25, 127)"},
+    Rule{"QTreeView", "rgba(25, 25, 25, 127)"},
+    Rule{"QTableView", "rgba(25, 25, 25, 127)"},
+    Rule{"QScrollBar:horizontal", "rgba(25, 25, 25, 127)"},
+    Rule{"QScrollBar:vertical", "rgba(25, 25, 25, 127)"},
+    Rule{"QGroupBox", "rgba(25, 25, 25, 127)"},
+    Rule{"QSplitter::handle", "rgba(25, 25, 25, 127)"},
+    Rule{"QMenu::item:selected", "palette(highlight)"},
+    Rule{"QTreeView::item:selected", "palette(highlight)"},
+    Rule{"QMenu::indicator:non-exclusive:checked", "branding/checkbox_checked.png"},
+    Rule{"QMenu::indicator:non-exclusive:unchecked", "branding/checkbox_unchecked.png"},
+    Rule{"QMenu::indicator:exclusive:checked", "branding/radiobutton_checked.png"},
+    Rule{"QMenu::indicator:exclusive:unchecked", "branding/radiobutton_unchecked.png"},
+    Rule{"QTabWidget::pane", "rgba(83, 83, 83, 127)"},
+    Rule{"QTabBar::tab:selected", "rgba(83, 83, 83, 127)"},
+    Rule{"QTabBar::tab:selected", "border-bottom: 2px solid palette(highlight)"},
+    Rule{"QTabBar::tab", "rgba(18, 18, 18, 127)"},
+    Rule{"::tab:disabled", "background-color: #353535"},
+    Rule{"QSlider::groove:horizontal", "palette(highlight)"},
+    Rule{"QSlider::sub-page:horizontal", "palette(highlight)"},
+    Rule{"QSlider::add-page:horizontal", "#2a2a2a"},
+    Rule{"QSlider::sub-page:vertical", "#2a2a2a"},
+    Rule{"QSlider::add-page:vertical", "palette(highlight)"},
+    Rule{"QSlider::handle:horizontal", "width: 11%"},
+    Rule{"QSlider::handle:horizontal", "#848484"},
+    Rule{"QSlider::handle:vertical", "height: 11%"},
+    Rule{"QSlider::handle:disabled", "#1c1c1c"},
+    Rule{"QSlider::handle:hover", "#ffffff"},
+    Rule{"QCheckBox::indicator:disabled", "rgba(43, 43, 43, 127)"},
+    Rule{"QDial", "color: palette(highlight)"},
+    Rule{"QDial", "background-color: #cacaca"},
+};
+
+} // namespace
+
+class TestStyleSheet : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void sheetIsCompressedWithWindowsLineEnds();
+    void sheetRule_data();
+    void sheetRule();
+    void sheetPicturesExist();
+    void disabledTabVanishes();
+    void disabledBarKeepsItsTabs();
+
+private:
+    QStyle *installed = nullptr; ///< the application owns it
+};
+
+void TestStyleSheet::initTestCase()
+{
+    installed = new DarkStyle;
+    QApplication::setStyle(installed);
+}
+
+void TestStyleSheet::sheetIsCompressedWithWindowsLineEnds()
+{
+    const QByteArray sheet = readFile(sheetResource);
+    QVERIFY(sheet.size() > 10 * 1024);
+    QCOMPARE(sheet.count('\n'), sheet.count("\r\n"));
+    QCOMPARE(QResource(sheetResource).compressionAlgorithm(), QResource::ZlibCompression);
+}
+
+void TestStyleSheet::sheetRule_data()
+{
+    QTest::addColumn<QString>("selector");
+    QTest::addColumn<QString>("declaration");
+    for (const Rule &rule : rules) {
+        QTest::addRow("%s %s", rule.selector, rule.declaration)
+            << QString::fromLatin1(rule.selector) << QString::fromLatin1(rule.declaration);
+    }
+}
+
+void TestStyleSheet::sheetRule()
+{
+    QFETCH(QString, selector);
+    QFETCH(QString, declaration);
+    const QString sheet = QString::fromLatin1(readFile(sheetResource));
+    // The selector alone or among others, then the declaration before the rule's end.
+    const QRegularExpression rule(QRegularExpression::escape(selector)
+                                  + QStringLiteral("(,[^{}]*)?\\s*\\{[^}]*")
+                                  + QRegularExpression::escape(declaration));
+    QVERIFY(rule.match(sheet).hasMatch());
+}
+
+void TestStyleSheet::sheetPicturesExist()
+{
+    const QString sheet = QString::fromLatin1(readFile(sheetResource));
+    auto urls = QRegularExpression(QStringLiteral("url\\(([^)]*)\\)")).globalMatch(sheet);
+    int seen = 0;
+    for (; urls.hasNext(); ++seen) {
+        const QString url = urls.next().captured(1);
+        const QString file =
+            url.startsWith(QLatin1Char(':')) ? url : QFINDTESTDATA(QStringLiteral("../../") + url);
+        QVERIFY2(!QImage(file).isNull(), qPrintable(url));
+    }
+    QVERIFY(seen > 20);
+}
+
+void TestStyleSheet::disabledTabVanishes()
+{
+    QTabWidget tabs;
+    for (const char *text : {"One", "Two", "Stripe"}) {
+        tabs.addTab(new QWidget, QLatin1String(text));
+    }
+    tabs.setTabEnabled(2, false);
+    tabs.show();
+    QCOMPARE(tabs.tabBar()->tabRect(2).width(), 0);
+    const int width = tabs.tabBar()->tabRect(1).width();
+    QVERIFY(width > 0);
+
+    tabs.setTabEnabled(2, true);
+    DarkStyle::layOutTabs(tabs.tabBar());
+    QVERIFY(tabs.tabBar()->tabRect(2).width() > width);
+    QCOMPARE(tabs.tabBar()->tabRect(1).width(), width);
+
+    tabs.setTabEnabled(2, false);
+    DarkStyle::layOutTabs(tabs.tabBar());
+    QCOMPARE(tabs.tabBar()->tabRect(2).width(), 0);
+}
+
+void TestStyleSheet::disabledBarKeepsItsTabs()
+{
+    QTabWidget tabs;
+    for (const char *text : {"One", "Two", "Stripe", "Hidden"}) {
+        tabs.addTab(new QWidget, QLatin1String(text));
+    }
+    tabs.setTabEnabled(2, false);
+    tabs.setTabVisible(3, false);
+    tabs.show();
+    const int width = tabs.tabBar()->tabRect(0).width();
+
+    // A new text makes the bar lay its tabs out, as a new size would.
+    tabs.setEnabled(false);
+    tabs.setTabText(1, QStringLiteral("Second"));
+    QCOMPARE(tabs.tabBar()->tabRect(0).width(), width);
+    QVERIFY(tabs.tabBar()->tabRect(1).width() > 0);
+    QCOMPARE(tabs.tabBar()->tabRect(2).width(), 0);
+
+    tabs.setEnabled(true);
+    tabs.setTabText(1, QStringLiteral("Two"));
+    QCOMPARE(tabs.tabBar()->tabRect(0).width(), width);
+    QCOMPARE(tabs.tabBar()->tabRect(2).width(), 0);
+}
+
+QTEST_MAIN(TestStyleSheet)
+#include "tst_stylesheet.moc"

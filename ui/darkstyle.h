@@ -1,0 +1,48 @@
+#pragma once
+
+#include "app/appsettings.h"
+
+#include <QColor>
+#include <QProxyStyle>
+
+class QTabBar;
+
+/// The program's look: the Fusion style in dark colours, with the compiled-in style sheet.
+///
+/// Any number of these may come and go, in any order; all of them draw with one shared base style.
+class DarkStyle : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    DarkStyle();
+
+    /// The style that every DarkStyle draws with. The first call decides: it keeps @p style, or a
+    /// new Fusion style when none is given, for the life of the process; later calls return that
+    /// same style whatever they are given. A style kept here must not be deleted by its giver.
+    static QStyle *sharedBaseStyle(QStyle *style = nullptr);
+
+    /// Sets the dark colours, in the order of their table. The highlight colour comes from the
+    /// branding file, read anew at every call; where that is missing it is black.
+    void polish(QPalette &palette) override;
+
+    /// Raises the application font by one point and sets the style sheet. A font with a pixel size
+    /// stays as it is; without the sheet's resource no sheet is set.
+    void polish(QApplication *app) override;
+
+    using QProxyStyle::polish;
+
+    /// Lays the tabs of @p bar out anew, as the sheet wants them: a disabled tab without width, but
+    /// the tabs of a bar that is disabled as a whole in their places. Qt does not do so by itself.
+    /// To be called after QTabWidget::setTabEnabled(); changes of whole bars this style sees
+    /// itself.
+    static void layOutTabs(QTabBar *bar);
+
+    /// Watches the application, once polished, for tab bars that are enabled or disabled.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QColor brandingHighlight() const;
+
+    AppSettings settings;
+};
