@@ -1,0 +1,90 @@
+#include "app/appsettings.h"
+#include "app/singleapplication.h"
+#include "app/startup.h"
+#include "system/platform.h"
+#include "ui/darkstyle.h"
+#include "ui/mainwindow.h"
+
+#include <QDateTime>
+#include <QDebug>
+#include <QDesktopWidget>
+#include <QDir>
+#include <QFont>
+
+namespace {
+
+constexpr int instanceTimeoutMs = 100;
+
+/// Moves to the program's folder after an autostart launch and mends the autostart entry. The
+/// relative paths of branding and updates rest on this.
+void repairWorkingDirectoryAndAutostart(Platform &platform)
+{
+    const StartUpPlan plan = planStartUp(platform.autostartValue(QString()), QDir::currentPath(),
+                                         platform.executableForm());
+    if (plan.workingDirectory) {
+        QDir::setCurrent(*plan.workingDirectory);
+    }
+    if (plan.autostartValue) {
+        platform.setAutostartValue(*plan.autostartValue);
+    }
+}
+
+void setFontForDpi()
+{
+    QFont font = QApplication::font();
+    const int dpi = QApplication::desktop()->logicalDpiX();
+    qDebug() << "Logical DPI:" << dpi;
+    if (const auto pixelSize = fontPixelSize(dpi)) {
+        font.setPixelSize(*pixelSize);
+        QApplication::setFont(font);
+    }
+}
+
+void setIdentity()
+{
+    QCoreApplication::setOrganizationDomain(QStringLiteral("TARVENWORKS"));
+    QCoreApplication::setOrganizationName(QStringLiteral("TARVENWORKS"));
+    QCoreApplication::setApplicationName(QStringLiteral("Lumikey"));
+    QCoreApplication::setApplicationVersion(QStringLiteral("1.0.4"));
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const std::unique_ptr<Platform> platform = createPlatform();
+    repairWorkingDirectoryAndAutostart(*platform);
+
+    const SingleApplication application(argc, argv, false, SingleApplication::PerUser,
+                                        instanceTimeoutMs);
+    // Set after the application exists, so Qt leaves scaling alone: the window adapts itself.
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
+    setFontForDpi();
+    setIdentity();
+    QApplication::setStyle(new DarkStyle); // the application takes ownership
+
+    const AppSettings paths;
+    MainWindow window(paths, *platform, QDateTime::currentMSecsSinceEpoch);
+    QObject::connect(&application, SIGNAL(aboutToQuit()), &window, SLOT(ShutdownQuit()));
+    QObject::connect(&application, &SingleApplication::instanceStarted, &window, [&window] {
+        window.raise();
+        window.show();
+        window.showNormal();
+        window.activateWindow();
+        window.setFocus(Qt::OtherFocusReason);
+    });
+
+    const auto settings = paths.openSettings();
+    settings->setValue(settingsPath(SettingKeys::appUrl),
+                       QDir::toNativeSeparators(QCoreApplication::applicationFilePath()));
+    const bool startHidden = settings->value(settingsPath(SettingKeys::startHidden)).toBool();
+
+    window.show();
+    window.raise();
+    window.setFocus(Qt::OtherFocusReason);
+    window.activateWindow();
+    if (startHidden) {
+        window.hide();
+    }
+    return QApplication::exec();
+}

@@ -1,0 +1,523 @@
+#include "lighting/effects.h"
+#include "tests/support/serviceclient.h"
+#include "tests/support/testwindow.h"
+#include "ui/keyboardpictures.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QPixmap>
+#include <QRadioButton>
+#include <QSlider>
+#include <QTabWidget>
+#include <QTest>
+
+namespace {
+
+constexpr std::array lightingControls{"horizontalSlider", "tabWidget_2", "Combo_Effect",
+                                      "CheckBox_AutoDim", "comboDimValue"};
+constexpr std::array colourWidgets{
+    "label_13",      "keyboard_full",   "colorpick4",     "label_9",    "label_10",   "label_11",
+    "keyboard_left", "keyboard_center", "keyboard_right", "colorpick1", "colorpick2", "colorpick3",
+};
+constexpr std::array notes{"label_14", "label_16"};
+
+/// A picture whose left half is opaque and whose right half is transparent.
+void writePicture(const QString &path)
+{
+    QImage image(8, 4, QImage::Format_ARGB32);
+    image.fill(Qt::transparent);
+    for (int y = 0; y < 4; ++y) {
+        for (int x = 0; x < 4; ++x) {
+            image.setPixelColor(x, y, Qt::white);
+        }
+    }
+    if (!image.save(path)) {
+        qFatal("cannot write %s", qPrintable(path));
+    }
+}
+
+/// The colour that a label's picture has where the shape is opaque.
+QColor shownColour(const QLabel &label)
+{
+    return label.pixmap(Qt::ReturnByValue).toImage().pixelColor(1, 1);
+}
+
+} // namespace
+
+class TestLighting : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void getColour();
+    void zoneKinds_data();
+    void zoneKinds();
+    void unknownKindsChangeNothing();
+    void componentBeyond255();
+    void sliderIsStoredAndAppliedLater();
+    void sliderWhileOff();
+    void sliderWhileAutoDimIsNotStored();
+    void brightnessTimerRuns();
+    void off();
+    void onAgain();
+    void clicksThatLeaveTheButtonUncheckedStoreNothing();
+    void loadingHandlersOnlyShow();
+    void effects_data();
+    void effects();
+    void backToNoEffect_data();
+    void backToNoEffect();
+    void unknownEffectIsOnlyStored();
+    void effectWhileLoading();
+    void stripeOption();
+    void resume_data();
+    void resume();
+    void tintKeepsTheShape();
+    void tintPictures_data();
+    void tintPictures();
+    void tintWithoutPicture();
+    void tintOfNoColour();
+
+private:
+    static void startWithColours(TestWindow &world)
+    {
+        world.writeSettings("backlight_on=true\nbrightlevel=100\nZone1Color=255 0 0\n"
+                            "Zone2Color=0 255 0\nZone3Color=0 0 255\nStripeLid=10 20 30\n");
+        for (const char *name : {"keyboard_left", "keyboard_center", "keyboard_right",
+                                 "keyboard_full", "stripe_lidled"}) {
+            writePicture(QStringLiteral("branding/%1.png").arg(QLatin1String(name)));
+        }
+        world.start();
+    }
+    static QString words(const MainWindow &window)
+    {
+        const LightingState &state = window.lightingState();
+        QStringList hex;
+        for (const QString &word :
+             {state.leftWord, state.centreWord, state.rightWord, state.stripeWord}) {
+            hex << QString::number(word.toUInt(), 16);
+        }
+        return hex.join(QLatin1Char(' '));
+    }
+};
+
+void TestLighting::getColour()
+{
+    TestWindow world;
+    MainWindow &window = world.construct();
+    uint word = 0;
+    QVERIFY(QMetaObject::invokeMethod(&window, "GetColour", Q_RETURN_ARG(uint, word),
+                                      Q_ARG(byte, 1), Q_ARG(byte, 2), Q_ARG(byte, 3),
+                                      Q_ARG(Zone, Zone::Right)));
+    QCOMPARE(word, 0xF2030102U);
+    QCOMPARE(window.GetColour(255, 0, 0, Zone::Left), 4026597120U);
+}
+
+void TestLighting::zoneKinds_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<QString>("singleStored");
+    QTest::addColumn<QString>("tints"); // left, centre, right, full, stripe
+    const auto row = [](const char *name, int kind, const char *words, const char *single,
+                        const char *tints) {
+        QTest::newRow(name) << kind << QString::fromLatin1(words) << QString::fromLatin1(single)
+                            << QString::fromLatin1(tints);
+    };
+    row("left", 1, "f0321464 f10000ff f2ff0000 f31e0a14", "false",
+        "1e146432 1e00ff00 1e0000ff 0 1e0a141e");
+    row("centre", 2, "f000ff00 f1321464 f2ff0000 f31e0a14", "false",
+        "1eff0000 1e146432 1e0000ff 0 1e0a141e");
+    row("right", 3, "f000ff00 f10000ff f2321464 f31e0a14", "false",
+        "1eff0000 1e00ff00 1e146432 0 1e0a141e");
+    row("all", 4, "f0321464 f1321464 f2321464 f31e0a14", "true",
+        "1e146432 1e146432 1e146432 1e146432 1e0a141e");
+    row("stripe", 5, "f000ff00 f10000ff f2ff0000 f3321464", "(none)",
+        "1eff0000 1e00ff00 1e0000ff 0 1e146432");
+}
+
+void TestLighting::zoneKinds()
+{
+    QFETCH(int, kind);
+    QFETCH(QString, tints);
+    TestWindow world;
+    startWithColours(world);
+    world.window->SetZoneColor(kind, QStringLiteral("20 100 50"));
+    QTEST(words(*world.window), "words");
+    QTEST(world.stored(SettingKeys::singleColourLast), "singleStored");
+    QCOMPARE(world.window->lightingState().singleColorSelected, kind == 4);
+
+    // Premultiplied pictures hold a colour of alpha 30 to within a few steps.
+    const QStringList expected = tints.split(QLatin1Char(' '));
+    const std::array labels{"keyboard_left", "keyboard_center", "keyboard_right", "keyboard_full",
+                            "stripe_led"};
+    QCOMPARE(expected.size(), static_cast<int>(labels.size()));
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        const QColor got = shownColour(*world.get<QLabel>(labels.at(i)));
+        const auto want = QColor::fromRgba(expected.at(static_cast<int>(i)).toUInt(nullptr, 16));
+        QCOMPARE(got.alpha(), want.alpha());
+        QVERIFY(want.alpha() == 0 || qAbs(got.red() - want.red()) <= 8);
+        QVERIFY(want.alpha() == 0 || qAbs(got.green() - want.green()) <= 8);
+        QVERIFY(want.alpha() == 0 || qAbs(got.blue() - want.blue()) <= 8);
+    }
+}
+
+void TestLighting::unknownKindsChangeNothing()
+{
+    TestWindow world;
+    startWithColours(world);
+    const QString before = words(*world.window);
+    for (const int kind : {-1, 0, 6, 100}) {
+        world.window->SetZoneColor(kind, QStringLiteral("1 1 1"));
+    }
+    QCOMPARE(words(*world.window), before);
+    QCOMPARE(world.stored(SettingKeys::singleColourLast), QStringLiteral("(none)"));
+}
+
+void TestLighting::componentBeyond255()
+{
+    TestWindow world;
+    startWithColours(world);
+    static int messages;
+    messages = 0;
+    const QtMessageHandler before = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext &, const QString &) { ++messages; });
+    world.window->SetZoneColor(1, QStringLiteral("300 0 0"));
+    world.window->SetZoneColor(1, QStringLiteral("-300 0 0"));
+    world.window->SetZoneColor(1, QStringLiteral("300 0 0"));
+    qInstallMessageHandler(before);
+    QCOMPARE(world.window->lightingState().leftWord, QString::number(0xF0002C00));
+    QCOMPARE(shownColour(*world.get<QLabel>("keyboard_left")), QColor(Qt::black));
+    QCOMPARE(messages, 0);
+}
+
+void TestLighting::sliderIsStoredAndAppliedLater()
+{
+    TestWindow world;
+    startWithColours(world);
+    world.window->brightnessapply(); // the first one after start
+    world.window->show();
+    auto *const slider = world.get<QSlider>("horizontalSlider");
+    slider->setFocus();
+    QTest::keyClick(slider, Qt::Key_Left);
+    QCOMPARE(slider->value(), 99);
+    QCOMPARE(world.stored(SettingKeys::brightLevel), QStringLiteral("99"));
+    QCOMPARE(world.get<QLabel>("label_2")->text(), QStringLiteral("Brightness Level: 99%"));
+    QCOMPARE(words(*world.window), QStringLiteral("f000ff00 f10000ff f2ff0000 f31e0a14"));
+    world.window->brightnessapply();
+    QCOMPARE(words(*world.window), QStringLiteral("f000fc00 f10000fc f2fc0000 f31d0913"));
+
+    slider->setValue(0);
+    world.window->brightnessapply();
+    QCOMPARE(words(*world.window), QStringLiteral("f0000000 f1000000 f2000000 f3000000"));
+}
+
+void TestLighting::sliderWhileOff()
+{
+    TestWindow world;
+    startWithColours(world);
+    world.get<QRadioButton>("backlight_off")->click();
+    const QString black = words(*world.window);
+    world.get<QSlider>("horizontalSlider")->setValue(30);
+    world.window->brightnessapply();
+    QCOMPARE(words(*world.window), black);
+    QCOMPARE(world.stored(SettingKeys::brightLevel), QStringLiteral("30"));
+    // Skipped, but remembered: switching on applies the colours at the new brightness.
+    world.get<QRadioButton>("backlight_on")->click();
+    QCOMPARE(words(*world.window), QStringLiteral("f0004c00 f100004c f24c0000 f3000000"));
+}
+
+void TestLighting::sliderWhileAutoDimIsNotStored()
+{
+    TestWindow world;
+    startWithColours(world);
+    world.get<QSlider>("horizontalSlider")->setValue(60);
+    QCOMPARE(world.stored(SettingKeys::brightLevel), QStringLiteral("60"));
+    // Unchecking auto-dim brings back the user's brightness, whatever the slider showed.
+    auto *const box = world.get<QAbstractButton>("CheckBox_AutoDim");
+    box->click();
+    QCOMPARE(world.get<QLabel>("label_2")->text(),
+             QStringLiteral("Brightness Level: 60% (Auto dim mode)"));
+    box->click();
+    QCOMPARE(world.get<QSlider>("horizontalSlider")->value(), 60);
+    QCOMPARE(world.get<QLabel>("label_2")->text(), QStringLiteral("Brightness Level: 60%"));
+}
+
+void TestLighting::brightnessTimerRuns()
+{
+    TestWindow world;
+    startWithColours(world);
+    world.get<QSlider>("horizontalSlider")->setValue(50);
+    QTRY_COMPARE_WITH_TIMEOUT(words(*world.window),
+                              QStringLiteral("f0007f00 f100007f f27f0000 f30f050a"), 500);
+}
+
+void TestLighting::off()
+{
+    TestWindow world;
+    startWithColours(world);
+    world.window->show();
+    auto *const button = world.get<QRadioButton>("backlight_off");
+    QTest::mouseClick(button, Qt::LeftButton, {}, {8, button->height() / 2});
+    QVERIFY(button->isChecked());
+    QCOMPARE(words(*world.window), QStringLiteral("f0000000 f1000000 f2000000 f3000000"));
+    QCOMPARE(world.stored(SettingKeys::backlightOn), QStringLiteral("false"));
+    QCOMPARE(world.stored(SettingKeys::backlightOff), QStringLiteral("true"));
+    for (const char *name : lightingControls) {
+        QVERIFY2(!world.get<QWidget>(name)->isEnabled(), name);
+    }
+}
+
+void TestLighting::onAgain()
+{
+    TestWindow world;
+    startWithColours(world);
+    world.window->brightnessapply();
+    world.get<QRadioButton>("backlight_off")->click();
+    world.window->show();
+    auto *const button = world.get<QRadioButton>("backlight_on");
+    QTest::mouseClick(button, Qt::LeftButton, {}, {8, button->height() / 2});
+    QVERIFY(world.window->wakeSequence().wakePending);
+    // The stripe stays black until the slider moves.
+    QCOMPARE(words(*world.window), QStringLiteral("f000ff00 f10000ff f2ff0000 f3000000"));
+    QCOMPARE(world.stored(SettingKeys::backlightOn), QStringLiteral("true"));
+    QCOMPARE(world.stored(SettingKeys::backlightOff), QStringLiteral("false"));
+    for (const char *name : lightingControls) {
+        QVERIFY2(world.get<QWidget>(name)->isEnabled(), name);
+    }
+    world.get<QSlider>("horizontalSlider")->setValue(50);
+    world.window->brightnessapply();
+    QCOMPARE(words(*world.window), QStringLiteral("f0007f00 f100007f f27f0000 f30f050a"));
+}
+
+void TestLighting::clicksThatLeaveTheButtonUncheckedStoreNothing()
+{
+    TestWindow world;
+    startWithColours(world);
+    const QString before = words(*world.window);
+    world.window->on_backlight_off_clicked(); // backlight_off is not checked
+    QCOMPARE(words(*world.window), before);
+    QCOMPARE(world.stored(SettingKeys::backlightOff), QStringLiteral("(none)"));
+    QVERIFY(!world.get<QWidget>("tabWidget_2")->isEnabled());
+    world.window->on_backlight_on_clicked();
+    QVERIFY(world.get<QWidget>("tabWidget_2")->isEnabled());
+}
+
+void TestLighting::loadingHandlersOnlyShow()
+{
+    TestWindow world;
+    MainWindow &window = world.construct();
+    const QString before = words(window);
+    world.get<QRadioButton>("backlight_off")->click();
+    QCOMPARE(words(window), before);
+    QCOMPARE(world.stored(SettingKeys::backlightOff), QStringLiteral("(none)"));
+    QVERIFY(!world.get<QWidget>("Combo_Effect")->isEnabled());
+    world.get<QRadioButton>("backlight_on")->click();
+    QCOMPARE(words(window), before);
+    QCOMPARE(world.stored(SettingKeys::backlightOn), QStringLiteral("(none)"));
+    QVERIFY(world.get<QWidget>("Combo_Effect")->isEnabled());
+    window.SetZoneColor(4, QStringLiteral("1 2 3"));
+    QCOMPARE(world.stored(SettingKeys::singleColourLast), QStringLiteral("(none)"));
+    QVERIFY(!window.lightingState().singleColorSelected);
+}
+
+void TestLighting::effects_data()
+{
+    QTest::addColumn<int>("index");
+    for (int i = 1; i < 8; ++i) {
+        QTest::newRow(::effects.at(static_cast<std::size_t>(i)).name) << i;
+    }
+}
+
+void TestLighting::effects()
+{
+    QFETCH(int, index);
+    TestWindow world;
+    startWithColours(world);
+    world.window->show();
+    const QString before = words(*world.window);
+    auto *const list = world.get<QComboBox>("Combo_Effect");
+    list->setFocus();
+    for (int i = 0; i < index; ++i) {
+        QTest::keyClick(list, Qt::Key_Down);
+    }
+    QCOMPARE(list->currentText(), QString::fromLatin1(QTest::currentDataTag()));
+    QCOMPARE(world.window->lightingState().effectWord,
+             QString::number(::effects.at(static_cast<std::size_t>(index)).word));
+    QCOMPARE(words(*world.window), before);
+    QCOMPARE(world.stored(SettingKeys::effects), QString::number(index));
+    QCOMPARE(world.get<QLabel>("label_2")->text(),
+             QStringLiteral("Brightness Level: 100% (disabled for Effects)"));
+    for (const char *name : {"horizontalSlider", "CheckBox_AutoDim", "comboDimValue"}) {
+        QVERIFY2(!world.get<QWidget>(name)->isEnabled(), name);
+    }
+    for (const char *name : colourWidgets) {
+        QVERIFY2(world.get<QWidget>(name)->isHidden(), name);
+    }
+    for (const char *name : notes) {
+        QVERIFY2(!world.get<QWidget>(name)->isHidden(), name);
+    }
+}
+
+void TestLighting::backToNoEffect_data()
+{
+    QTest::addColumn<bool>("single");
+    QTest::addColumn<int>("page");
+    QTest::addColumn<QString>("words");
+    QTest::newRow("zones") << false << 1 << QStringLiteral("f000ff00 f10000ff f2ff0000 f31e0a14");
+    QTest::newRow("single") << true << 0 << QStringLiteral("f0030102 f1030102 f2030102 f31e0a14");
+}
+
+void TestLighting::backToNoEffect()
+{
+    QFETCH(bool, single);
+    TestWindow world;
+    startWithColours(world);
+    if (single) {
+        world.get<QAbstractButton>("colorpick4")->click();
+        world.window->updateColorRGB(QStringLiteral("1 2 3"));
+        world.get<QAbstractButton>("pushButton")->click();
+    }
+    auto *const list = world.get<QComboBox>("Combo_Effect");
+    list->setCurrentIndex(3);
+    world.get<QTabWidget>("tabWidget_2")->setCurrentIndex(single ? 1 : 0);
+    list->setCurrentIndex(0);
+    QCOMPARE(world.window->lightingState().effectWord, QStringLiteral("0"));
+    QTEST(world.get<QTabWidget>("tabWidget_2")->currentIndex(), "page");
+    QTEST(words(*world.window), "words");
+    QCOMPARE(world.get<QLabel>("label_2")->text(), QStringLiteral("Brightness Level: 100%"));
+    for (const char *name : {"horizontalSlider", "CheckBox_AutoDim", "comboDimValue"}) {
+        QVERIFY2(world.get<QWidget>(name)->isEnabled(), name);
+    }
+    for (const char *name : colourWidgets) {
+        QVERIFY2(!world.get<QWidget>(name)->isHidden(), name);
+    }
+    for (const char *name : notes) {
+        QVERIFY2(world.get<QWidget>(name)->isHidden(), name);
+    }
+}
+
+void TestLighting::unknownEffectIsOnlyStored()
+{
+    TestWindow world;
+    startWithColours(world);
+    world.get<QComboBox>("Combo_Effect")->setCurrentIndex(2);
+    for (const int index : {8, 100}) {
+        world.window->on_Combo_Effect_currentIndexChanged(index);
+        QCOMPARE(world.window->lightingState().effectWord, QStringLiteral("855703552"));
+        QCOMPARE(world.stored(SettingKeys::effects), QString::number(index));
+    }
+}
+
+void TestLighting::effectWhileLoading()
+{
+    TestWindow world;
+    MainWindow &window = world.construct();
+    world.get<QComboBox>("Combo_Effect")->setCurrentIndex(5);
+    QCOMPARE(window.lightingState().effectWord, QStringLiteral("0"));
+    QCOMPARE(world.stored(SettingKeys::effects), QStringLiteral("5"));
+    QVERIFY(!world.get<QWidget>("label_13")->isHidden());
+}
+
+void TestLighting::stripeOption()
+{
+    TestWindow world;
+    startWithColours(world);
+    auto *const tabs = world.get<QTabWidget>("tabWidget_2");
+    auto *const box = world.get<QAbstractButton>("StartHidden_2");
+    QVERIFY(!tabs->isTabEnabled(2));
+    const QString before = words(*world.window);
+    box->click();
+    QVERIFY(tabs->isTabEnabled(2));
+    QVERIFY(tabs->isTabVisible(2));
+    box->click();
+    QVERIFY(!tabs->isTabEnabled(2));
+    QVERIFY(tabs->isTabVisible(2)); // disabled, not hidden again
+    QCOMPARE(words(*world.window), before);
+}
+
+void TestLighting::resume_data()
+{
+    QTest::addColumn<bool>("on");
+    QTest::newRow("on") << true;
+    QTest::newRow("off") << false;
+}
+
+void TestLighting::resume()
+{
+    QFETCH(bool, on);
+    TestWindow world;
+    startWithColours(world);
+    ServiceClient::readLine(); // the two wake lines of the start
+    ServiceClient::readLine();
+    if (!on) {
+        world.get<QRadioButton>("backlight_off")->click();
+    }
+    QVERIFY(!world.window->wakeSequence().wakePending);
+    world.window->suspendresumeaction();
+    QCOMPARE(words(*world.window), QStringLiteral("f0000000 f1000000 f2000000 f3000000"));
+    QCOMPARE(world.window->wakeSequence().wakePending, on);
+    QTRY_COMPARE_WITH_TIMEOUT(words(*world.window),
+                              QStringLiteral("f000ff00 f10000ff f2ff0000 f31e0a14"), 3000);
+}
+
+void TestLighting::tintKeepsTheShape()
+{
+    QImage image(2, 1, QImage::Format_ARGB32);
+    image.setPixelColor(0, 0, QColor(10, 20, 30, 255));
+    image.setPixelColor(1, 0, QColor(10, 20, 30, 0));
+    const QImage result = tinted(QPixmap::fromImage(image), QColor(255, 0, 0, 30)).toImage();
+    QCOMPARE(result.pixelColor(0, 0).alpha(), 30);
+    QCOMPARE(result.pixelColor(0, 0).red(), 255);
+    QCOMPARE(result.pixelColor(0, 0).green(), 0);
+    QCOMPARE(result.pixelColor(1, 0).alpha(), 0);
+}
+
+void TestLighting::tintPictures_data()
+{
+    QTest::addColumn<int>("img");
+    QTest::addColumn<QString>("label");
+    QTest::newRow("left") << 1 << QStringLiteral("keyboard_left");
+    QTest::newRow("centre") << 2 << QStringLiteral("keyboard_center");
+    QTest::newRow("right") << 3 << QStringLiteral("keyboard_right");
+    QTest::newRow("full") << 4 << QStringLiteral("keyboard_full");
+    QTest::newRow("stripe") << 5 << QStringLiteral("stripe_led");
+    QTest::newRow("none") << 0 << QString();
+    QTest::newRow("beyond") << 6 << QString();
+}
+
+void TestLighting::tintPictures()
+{
+    QFETCH(int, img);
+    QFETCH(QString, label);
+    TestWindow world;
+    startWithColours(world);
+    world.window->setKeyboardImageColor(0, 200, 0, 255, img);
+    int painted = 0;
+    for (const QLabel *candidate : world.window->findChildren<QLabel *>()) {
+        const bool green = !candidate->pixmap(Qt::ReturnByValue).isNull()
+                           && shownColour(*candidate) == QColor(0, 200, 0);
+        QCOMPARE(green, candidate->objectName() == label);
+        painted += green ? 1 : 0;
+    }
+    QCOMPARE(painted, label.isEmpty() ? 0 : 1);
+}
+
+void TestLighting::tintWithoutPicture()
+{
+    TestWindow world;
+    world.start();
+    world.window->setKeyboardImageColor(1, 2, 3, 30, 4);
+    QVERIFY(world.get<QLabel>("keyboard_full")->pixmap(Qt::ReturnByValue).isNull());
+}
+
+void TestLighting::tintOfNoColour()
+{
+    QCOMPARE(tintColour({255, 0, 128}, 30), QColor(255, 0, 128, 30));
+    for (const ColourComponents &bad :
+         {ColourComponents{256, 0, 0}, ColourComponents{0, -1, 0}, ColourComponents{0, 0, 999}}) {
+        QCOMPARE(tintColour(bad, 30), QColor(Qt::black));
+    }
+}
+
+QTEST_MAIN(TestLighting)
+#include "tst_lighting.moc"

@@ -1,0 +1,289 @@
+#include "colorpicker/basiccolours.h"
+#include "lighting/devicewords.h"
+#include "tests/support/testwindow.h"
+
+#include <QAbstractButton>
+#include <QClipboard>
+#include <QComboBox>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QStatusBar>
+#include <QTest>
+
+Q_DECLARE_METATYPE(SettingKey)
+
+class TestPicker : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void targets_data();
+    void targets();
+    void cancelStoresNothing();
+    void wholeKeyboardWritesFourKeys();
+    void basicColours_data();
+    void basicColours();
+    void chosenPurpleIsNotRecognised();
+    void enteredPurpleBecomesTheOther();
+    void enteredTextIsNormalised();
+    void hexIsEntered();
+    void textThatIsNoColourIsStoredAsTyped();
+    void copying();
+    void pasting();
+    void pastingNothing();
+    void selectField();
+
+private:
+    static void open(TestWindow &world, const char *button, const QByteArray &settings = {})
+    {
+        world.writeSettings("backlight_on=true\nbrightlevel=100\n" + settings);
+        world.start();
+        world.get<QAbstractButton>(button)->click();
+    }
+    static QString text(const TestWindow &world, const char *field)
+    {
+        return world.get<QLineEdit>(field)->text();
+    }
+    /// Puts a text in by the keyboard and the clipboard: a blank typed at the end of the RGB field
+    /// is trimmed before the next digit comes.
+    static void enter(const TestWindow &world, const char *field, const char *text)
+    {
+        auto *const edit = world.get<QLineEdit>(field);
+        QGuiApplication::clipboard()->setText(QString::fromLatin1(text));
+        edit->selectAll();
+        QTest::keyClick(edit, Qt::Key_V, Qt::ControlModifier);
+    }
+};
+
+void TestPicker::targets_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("prompt");
+    QTest::addColumn<QString>("loaded");
+    QTest::addColumn<SettingKey>("key");
+    const auto row = [](const char *button, const char *prompt, const char *loaded,
+                        const SettingKey &key) {
+        QTest::newRow(button) << QString::fromLatin1(button) << QString::fromLatin1(prompt)
+                              << QString::fromLatin1(loaded) << key;
+    };
+    row("colorpick1", "Select Left Keyboard Zone Color:", "1 2 3", SettingKeys::leftColour);
+    row("colorpick2", "Select Center Keyboard Zone Color:", "4 5 6", SettingKeys::centreColour);
+    row("colorpick3", "Select Right Keyboard Zone Color:", "7 8 9", SettingKeys::rightColour);
+    row("colorpick4", "Select Keyboard Color:", "", SettingKeys::singleColour);
+    row("colorpick5", "Select Stripe / LCD Lid Color:", "10 20 30", SettingKeys::stripeLid);
+}
+
+void TestPicker::targets()
+{
+    QFETCH(QString, button);
+    QFETCH(SettingKey, key);
+    TestWindow world;
+    open(world, qPrintable(button),
+         "Zone1Color=1 2 3\nZone2Color=4 5 6\nZone3Color=7 8 9\nStripeLid=10 20 30\n"
+         "P751LEDStripe=true\n");
+    QVERIFY(!world.get<QWidget>("colorpickframe")->isHidden());
+    QVERIFY(world.get<QWidget>("tabWidget")->isHidden());
+    QVERIFY(world.get<QWidget>("tabWidget_2")->isHidden());
+    QTEST(world.get<QLabel>("label_8")->text(), "prompt");
+    QTEST(text(world, "leRGB"), "loaded");
+    QCOMPARE(world.get<QComboBox>("comboBox_BasicColors")->currentIndex(), 0);
+
+    enter(world, "leRGB", "0 0 255");
+    world.get<QAbstractButton>("pushButton")->click();
+    QVERIFY(world.get<QWidget>("colorpickframe")->isHidden());
+    QVERIFY(!world.get<QWidget>("tabWidget")->isHidden());
+    QVERIFY(!world.get<QWidget>("tabWidget_2")->isHidden());
+    QCOMPARE(world.stored(key), QStringLiteral("0 0 255"));
+}
+
+void TestPicker::cancelStoresNothing()
+{
+    TestWindow world;
+    open(world, "colorpick1", "Zone1Color=1 2 3\n");
+    enter(world, "leRGB", "0 0 255");
+    world.get<QAbstractButton>("pushButton_2")->click();
+    QVERIFY(world.get<QWidget>("colorpickframe")->isHidden());
+    QVERIFY(!world.get<QWidget>("tabWidget_2")->isHidden());
+    QCOMPARE(world.stored(SettingKeys::leftColour), QStringLiteral("1 2 3"));
+    QCOMPARE(world.window->lightingState().leftZoneColor, QStringLiteral("1 2 3"));
+    QCOMPARE(world.window->lightingState().leftWord, wordText(0xF0030102));
+}
+
+void TestPicker::wholeKeyboardWritesFourKeys()
+{
+    TestWindow world;
+    open(world, "colorpick4");
+    enter(world, "leRGB", "255 0 0");
+    world.get<QAbstractButton>("pushButton")->click();
+    for (const SettingKey &key : {SettingKeys::leftColour, SettingKeys::centreColour,
+                                  SettingKeys::rightColour, SettingKeys::singleColour}) {
+        QCOMPARE(world.stored(key), QStringLiteral("255 0 0"));
+    }
+    QCOMPARE(world.stored(SettingKeys::singleColourLast), QStringLiteral("true"));
+    const LightingState &state = world.window->lightingState();
+    QVERIFY(state.singleColorSelected);
+    QCOMPARE(state.leftWord, wordText(0xF000FF00));
+    QCOMPARE(state.centreWord, wordText(0xF100FF00));
+    QCOMPARE(state.rightWord, wordText(0xF200FF00));
+}
+
+void TestPicker::basicColours_data()
+{
+    QTest::addColumn<QString>("chosen");
+    QTest::addColumn<QString>("opensOn");
+    const auto row = [](const char *name, const char *chosen, const char *opensOn) {
+        QTest::newRow(name) << QString::fromLatin1(chosen) << QString::fromLatin1(opensOn);
+    };
+    row("Red", "255 0 0", "255 0 0");
+    row("White", "255 255 255", "255 255 255");
+    row("Blue", "0 0 255", "0 0 255");
+    row("Cyan", "0 255 255", "0 255 255");
+    row("Purple", "155 0 255", "153 0 255");
+    row("Yellow", "255 255 0", "255 255 0");
+    row("Green", "0 255 0", "0 255 0");
+    row("Orange", "255 85 0", "255 85 0");
+}
+
+void TestPicker::basicColours()
+{
+    QFETCH(QString, chosen);
+    QFETCH(QString, opensOn);
+    const QString name = QString::fromLatin1(QTest::currentDataTag());
+    TestWindow world;
+    open(world, "colorpick1", "Zone2Color=" + opensOn.toLatin1() + '\n');
+    auto *const list = world.get<QComboBox>("comboBox_BasicColors");
+    list->setCurrentIndex(list->findText(name));
+    QCOMPARE(text(world, "leRGB"), chosen);
+    QCOMPARE(basicColourText(list->currentIndex()), chosen);
+    list->setCurrentIndex(0);
+    QCOMPARE(text(world, "leRGB"), chosen); // "None" changes nothing
+
+    world.get<QAbstractButton>("colorpick2")->click(); // retargets the open picker
+    QCOMPARE(list->currentText(), name);
+    QCOMPARE(basicColourIndex(opensOn), list->currentIndex());
+}
+
+void TestPicker::chosenPurpleIsNotRecognised()
+{
+    TestWindow world;
+    open(world, "colorpick1");
+    auto *const list = world.get<QComboBox>("comboBox_BasicColors");
+    list->setCurrentIndex(5);
+    world.get<QAbstractButton>("pushButton")->click();
+    QCOMPARE(world.stored(SettingKeys::leftColour), QStringLiteral("155 0 255"));
+    world.get<QAbstractButton>("colorpick1")->click();
+    QCOMPARE(list->currentText(), QStringLiteral("None"));
+}
+
+void TestPicker::enteredPurpleBecomesTheOther()
+{
+    TestWindow world;
+    open(world, "colorpick1");
+    enter(world, "leRGB", "153 0 255");
+    world.get<QAbstractButton>("pushButton")->click();
+    QCOMPARE(world.stored(SettingKeys::leftColour), QStringLiteral("153 0 255"));
+    world.get<QAbstractButton>("colorpick1")->click();
+    QCOMPARE(world.get<QComboBox>("comboBox_BasicColors")->currentText(), QStringLiteral("Purple"));
+    QCOMPARE(text(world, "leRGB"), QStringLiteral("155 0 255"));
+}
+
+void TestPicker::enteredTextIsNormalised()
+{
+    TestWindow world;
+    open(world, "colorpick1");
+    enter(world, "leRGB", "  255 ,  0   0 ");
+    QCOMPARE(text(world, "leRGB"), QStringLiteral("255 0 0"));
+    QCOMPARE(text(world, "leHex"), QStringLiteral("ff0000"));
+}
+
+void TestPicker::hexIsEntered()
+{
+    TestWindow world;
+    open(world, "colorpick1");
+    QTest::keyClicks(world.get<QLineEdit>("leHex"), QStringLiteral("f00"));
+    QCOMPARE(text(world, "leRGB"), QStringLiteral("255 0 0")); // as soon as it is three digits
+    enter(world, "leHex", "0080ff");
+    QCOMPARE(text(world, "leRGB"), QStringLiteral("0 128 255"));
+    QCOMPARE(text(world, "leHex"), QStringLiteral("0080ff"));
+}
+
+void TestPicker::textThatIsNoColourIsStoredAsTyped()
+{
+    TestWindow world;
+    open(world, "colorpick1", "Zone1Color=255 0 0\n");
+    auto *const field = world.get<QLineEdit>("leRGB");
+    field->setCursorPosition(0);
+    QTest::keyClick(field, Qt::Key_Up);
+    QCOMPARE(field->text(), QStringLiteral("256 0 0"));
+    QCOMPARE(text(world, "leHex"), QStringLiteral("ff0000"));
+    world.get<QAbstractButton>("pushButton")->click();
+    QCOMPARE(world.stored(SettingKeys::leftColour), QStringLiteral("256 0 0"));
+    QCOMPARE(world.window->lightingState().leftWord, wordText(0xF0000000));
+}
+
+void TestPicker::copying()
+{
+    TestWindow world;
+    open(world, "colorpick1", "Zone1Color=0 128 255\n");
+    const QClipboard *const clipboard = QGuiApplication::clipboard();
+    auto *const bar = world.get<QStatusBar>("statusBar");
+    world.window->copyRGB();
+    QCOMPARE(clipboard->text(), QStringLiteral("0, 128, 255"));
+    QCOMPARE(bar->currentMessage(), QStringLiteral("RGB copied"));
+
+    QVERIFY(!world.get<QWidget>("bPasteHex")->isEnabled());
+    world.get<QAbstractButton>("bHex")->click();
+    QCOMPARE(clipboard->text(), QStringLiteral("0080ff"));
+    QCOMPARE(bar->currentMessage(), QStringLiteral("Hex copied"));
+    QVERIFY(world.get<QWidget>("bPasteHex")->isEnabled());
+
+    world.window->show();
+    auto *const sample = world.get<QWidget>("colorSample");
+    QTest::mouseClick(sample, Qt::RightButton);
+    QCOMPARE(clipboard->text(), QStringLiteral("#0080ff"));
+    QCOMPARE(bar->currentMessage(), QStringLiteral("Hex # copied"));
+    QTest::mouseClick(sample, Qt::LeftButton);
+    QCOMPARE(clipboard->text(), QStringLiteral("0080ff"));
+    QTRY_COMPARE_WITH_TIMEOUT(bar->currentMessage(), QString(), 3500);
+}
+
+void TestPicker::pasting()
+{
+    TestWindow world;
+    open(world, "colorpick1");
+    world.get<QAbstractButton>("bHex")->click();
+    QGuiApplication::clipboard()->setText(QStringLiteral("#0A0"));
+    world.get<QAbstractButton>("bPasteHex")->click();
+    QCOMPARE(text(world, "leRGB"), QStringLiteral("0 170 0"));
+    QCOMPARE(text(world, "leHex"), QStringLiteral("00aa00"));
+    QCOMPARE(world.get<QStatusBar>("statusBar")->currentMessage(),
+             QStringLiteral("Hex value pasted"));
+}
+
+void TestPicker::pastingNothing()
+{
+    TestWindow world;
+    open(world, "colorpick1", "Zone1Color=255 0 0\n");
+    for (const char *junk : {"", "hello", "#12345", "1234567"}) {
+        QGuiApplication::clipboard()->setText(QString::fromLatin1(junk));
+        world.window->pasteHex();
+        QCOMPARE(text(world, "leHex"), QStringLiteral("ff0000"));
+        QCOMPARE(world.get<QStatusBar>("statusBar")->currentMessage(), QString());
+    }
+}
+
+void TestPicker::selectField()
+{
+    TestWindow world;
+    open(world, "colorpick1", "Zone1Color=255 0 0\n");
+    world.window->show();
+    QVERIFY(QTest::qWaitForWindowActive(world.window.get()));
+    auto *const field = world.get<QLineEdit>("leRGB");
+    world.window->selectField(field);
+    QVERIFY(field->hasFocus());
+    QCOMPARE(field->selectedText(), QStringLiteral("255 0 0"));
+}
+
+QTEST_MAIN(TestPicker)
+#include "tst_picker.moc"

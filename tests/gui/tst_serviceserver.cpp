@@ -1,0 +1,215 @@
+#include "tests/support/serviceclient.h"
+#include "tests/support/testwindow.h"
+
+#include <QComboBox>
+#include <QHostAddress>
+#include <QRadioButton>
+#include <QSlider>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTest>
+
+namespace {
+
+const QString offLine = QStringLiteral("3758108672,3758108672,3758108672,3758108672,0");
+const QString wakeLine = QStringLiteral("3758616583,3758616583,3758616583,3758616583,0");
+const QString redLine = QStringLiteral("4026597120,4043309056,4060086272,4076863488,0");
+
+void startRed(TestWindow &world)
+{
+    world.writeSettings("backlight_on=true\nbrightlevel=100\nZone1Color=255 0 0\n");
+    world.start();
+}
+
+void takeWakeLines()
+{
+    QCOMPARE(ServiceClient::readLine(), wakeLine);
+    QCOMPARE(ServiceClient::readLine(), wakeLine);
+}
+
+} // namespace
+
+class TestServiceServer : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void beforeSettingsAreApplied();
+    void threeClientsInARow();
+    void turningOnWakesAgain();
+    void offAlsoWithAnEffect();
+    void zeroBrightnessWithAnEffect();
+    void effectIsTheFifthField();
+    void wakeWaitsWhileOff();
+    void lastLineIsKept();
+    void nobodyToAnswer();
+    void manyAtOnce();
+    void clientsThatAreGone();
+    void clientThatTalks();
+    void portTaken();
+};
+
+void TestServiceServer::beforeSettingsAreApplied()
+{
+    TestWindow world;
+    QTest::ignoreMessage(QtCriticalMsg, "The Service Server is running!");
+    world.construct();
+    const QByteArray answer = ServiceClient::readAnswer();
+    QCOMPARE(answer.size(), 96);
+    QCOMPARE(answer.left(6).toHex(), QByteArray("005e0000005a"));
+    QCOMPARE(ServiceClient::lineOf(answer), wakeLine);
+}
+
+void TestServiceServer::threeClientsInARow()
+{
+    TestWindow world;
+    startRed(world);
+    takeWakeLines();
+    QCOMPARE(ServiceClient::readLine(), redLine);
+    QCOMPARE(ServiceClient::readLine(), redLine);
+}
+
+void TestServiceServer::turningOnWakesAgain()
+{
+    TestWindow world;
+    startRed(world);
+    takeWakeLines();
+    world.get<QRadioButton>("backlight_off")->click();
+    QCOMPARE(ServiceClient::readLine(), offLine);
+    world.get<QRadioButton>("backlight_on")->click();
+    takeWakeLines();
+    QCOMPARE(ServiceClient::readLine(), redLine);
+}
+
+void TestServiceServer::offAlsoWithAnEffect()
+{
+    TestWindow world;
+    startRed(world);
+    world.get<QComboBox>("Combo_Effect")->setCurrentIndex(1);
+    world.get<QRadioButton>("backlight_off")->click();
+    for (int client = 0; client < 3; ++client) {
+        QCOMPARE(ServiceClient::readLine(), offLine);
+    }
+}
+
+void TestServiceServer::zeroBrightnessWithAnEffect()
+{
+    TestWindow world;
+    startRed(world);
+    world.get<QComboBox>("Combo_Effect")->setCurrentIndex(1);
+    world.get<QSlider>("horizontalSlider")->setValue(0);
+    QCOMPARE(ServiceClient::readLine(),
+             QStringLiteral("3758108672,3758108672,3758108672,3758108672,268607488"));
+}
+
+void TestServiceServer::effectIsTheFifthField()
+{
+    TestWindow world;
+    startRed(world);
+    takeWakeLines();
+    world.get<QComboBox>("Combo_Effect")->setCurrentIndex(7);
+    QCOMPARE(ServiceClient::readLine(),
+             QStringLiteral("4026597120,4043309056,4060086272,4076863488,2952790016"));
+}
+
+void TestServiceServer::wakeWaitsWhileOff()
+{
+    TestWindow world;
+    world.writeSettings("backlight_on=false\nbrightlevel=100\nZone1Color=255 0 0\n");
+    world.start();
+    QCOMPARE(ServiceClient::readLine(), offLine);
+    QVERIFY(world.window->wakeSequence().wakePending);
+    world.get<QRadioButton>("backlight_on")->click();
+    world.get<QSlider>("horizontalSlider")->setValue(0);
+    QCOMPARE(ServiceClient::readLine(), offLine);
+    world.get<QSlider>("horizontalSlider")->setValue(100);
+    takeWakeLines();
+}
+
+void TestServiceServer::lastLineIsKept()
+{
+    TestWindow world;
+    startRed(world);
+    QCOMPARE(world.window->lastCommandLine(), QString());
+    takeWakeLines();
+    QCOMPARE(world.window->lastCommandLine(), wakeLine);
+    ServiceClient::readLine();
+    QCOMPARE(world.window->lastCommandLine(), redLine);
+}
+
+void TestServiceServer::nobodyToAnswer()
+{
+    TestWindow world;
+    startRed(world);
+    QVERIFY(QMetaObject::invokeMethod(world.window.get(), "sendFortune"));
+    QVERIFY(world.window->wakeSequence().wakePending);
+    QCOMPARE(world.window->lastCommandLine(), QString());
+    takeWakeLines();
+}
+
+void TestServiceServer::manyAtOnce()
+{
+    constexpr int clients = 200;
+    TestWindow world;
+    startRed(world);
+    std::vector<std::unique_ptr<QTcpSocket>> sockets;
+    for (int i = 0; i < clients; ++i) {
+        sockets.push_back(std::make_unique<QTcpSocket>());
+        sockets.back()->connectToHost(QHostAddress(QStringLiteral("127.0.0.9")), 52316);
+    }
+    int wakes = 0;
+    int normals = 0;
+    for (const auto &socket : sockets) {
+        QTRY_COMPARE_WITH_TIMEOUT(socket->state(), QAbstractSocket::UnconnectedState, 10000);
+        const QString line = ServiceClient::lineOf(socket->readAll());
+        wakes += line == wakeLine ? 1 : 0;
+        normals += line == redLine ? 1 : 0;
+    }
+    QCOMPARE(wakes, 2);
+    QCOMPARE(normals, clients - 2);
+    auto *const server = world.window->findChild<QTcpServer *>();
+    QTRY_COMPARE(server->findChildren<QTcpSocket *>().size(), 0);
+}
+
+void TestServiceServer::clientsThatAreGone()
+{
+    TestWindow world;
+    startRed(world);
+    takeWakeLines();
+    for (int i = 0; i < 50; ++i) {
+        QTcpSocket socket;
+        socket.connectToHost(QHostAddress(QStringLiteral("127.0.0.9")), 52316);
+        QVERIFY(socket.waitForConnected()); // by the system; the program has not seen it yet
+        socket.abort();
+    }
+    QCOMPARE(ServiceClient::readLine(), redLine);
+    auto *const server = world.window->findChild<QTcpServer *>();
+    QTRY_COMPARE(server->findChildren<QTcpSocket *>().size(), 0);
+}
+
+void TestServiceServer::clientThatTalks()
+{
+    TestWindow world;
+    startRed(world);
+    QTcpSocket socket;
+    socket.connectToHost(QHostAddress(QStringLiteral("127.0.0.9")), 52316);
+    QVERIFY(socket.waitForConnected());
+    socket.write("hello");
+    QTRY_COMPARE(socket.state(), QAbstractSocket::UnconnectedState);
+    QCOMPARE(ServiceClient::readLine(), wakeLine); // the next is served as ever
+}
+
+void TestServiceServer::portTaken()
+{
+    TestWindow world;
+    QTcpServer other;
+    QVERIFY(other.listen(QHostAddress(QStringLiteral("127.0.0.9")), 52316));
+    QTest::ignoreMessage(QtCriticalMsg, "Could not start the Service Server");
+    startRed(world);
+    world.get<QSlider>("horizontalSlider")->setValue(50);
+    world.window->brightnessapply();
+    QCOMPARE(world.window->lightingState().leftWord, QString::number(0xF0007F00));
+}
+
+QTEST_MAIN(TestServiceServer)
+#include "tst_serviceserver.moc"

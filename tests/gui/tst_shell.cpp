@@ -1,0 +1,147 @@
+#include "tests/support/testwindow.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QSystemTrayIcon>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+
+namespace {
+
+/// Whether the event loop ends by itself within half a second of @p action.
+bool endsTheProgram(const std::function<void()> &action)
+{
+    constexpr int stillRunning = 99;
+    QTimer::singleShot(0, qApp, action);
+    QTimer watchdog;
+    watchdog.setSingleShot(true);
+    QObject::connect(&watchdog, &QTimer::timeout, [] { QCoreApplication::exit(stillRunning); });
+    watchdog.start(500);
+    return QCoreApplication::exec() != stillRunning;
+}
+
+} // namespace
+
+class TestShell : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void frame();
+    void closeButtonCloses();
+    void closeButtonHides();
+    void minimise();
+    void dragging();
+    void trayMenu();
+    void trayActivation();
+};
+
+void TestShell::frame()
+{
+    TestWindow world;
+    const MainWindow &window = world.construct();
+    QCOMPARE(window.windowFlags(), Qt::Window | Qt::FramelessWindowHint);
+}
+
+void TestShell::closeButtonCloses()
+{
+    TestWindow world;
+    MainWindow &window = world.start();
+    window.show();
+    auto *const button = world.get<QAbstractButton>("closeButton");
+    QVERIFY(endsTheProgram([button] { button->click(); }));
+}
+
+void TestShell::closeButtonHides()
+{
+    TestWindow world;
+    MainWindow &window = world.start();
+    window.show();
+    world.get<QCheckBox>("Check_CloseHides")->setChecked(true);
+    auto *const button = world.get<QAbstractButton>("closeButton");
+    QVERIFY(!endsTheProgram([button] { button->click(); }));
+    QVERIFY(!window.isVisible());
+    window.ShowInterface();
+    QVERIFY(window.isVisible());
+}
+
+void TestShell::minimise()
+{
+    TestWindow world;
+    MainWindow &window = world.start();
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    world.get<QAbstractButton>("minimizeButton")->click();
+    QTRY_VERIFY(window.isMinimized());
+    window.ShowInterface();
+    QTRY_VERIFY(!window.isMinimized());
+}
+
+void TestShell::dragging()
+{
+    TestWindow world;
+    MainWindow &window = world.start();
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const QPoint before = window.pos();
+    const auto send = [&window](QEvent::Type type, const QPoint &at, Qt::MouseButton button,
+                                Qt::MouseButtons held) {
+        QMouseEvent event(type, at, window.mapToGlobal(at), button, held, Qt::NoModifier);
+        QCoreApplication::sendEvent(&window, &event);
+    };
+    send(QEvent::MouseButtonPress, {20, 5}, Qt::RightButton, Qt::RightButton);
+    send(QEvent::MouseMove, {50, 45}, Qt::NoButton, Qt::RightButton);
+    QCOMPARE(window.pos(), before);
+    send(QEvent::MouseMove, {50, 45}, Qt::NoButton, Qt::LeftButton); // no press came first
+    QCOMPARE(window.pos(), before);
+    send(QEvent::MouseButtonPress, {20, 5}, Qt::LeftButton, Qt::LeftButton);
+    send(QEvent::MouseMove, {50, 45}, Qt::NoButton, Qt::LeftButton);
+    QCOMPARE(window.pos(), before + QPoint(30, 40));
+    send(QEvent::MouseButtonRelease, {20, 5}, Qt::LeftButton, Qt::NoButton);
+    send(QEvent::MouseMove, {90, 95}, Qt::NoButton, Qt::LeftButton);
+    QCOMPARE(window.pos(), before + QPoint(30, 40));
+}
+
+void TestShell::trayMenu()
+{
+    TestWindow world;
+    MainWindow &window = world.start();
+    const auto *const icon = window.findChild<QSystemTrayIcon *>();
+    QVERIFY(icon != nullptr);
+    QVERIFY(icon->isVisible());
+    QCOMPARE(icon->toolTip(), QString());
+    const QList<QAction *> entries = icon->contextMenu()->actions();
+    QCOMPARE(entries.size(), 2);
+    QCOMPARE(entries.at(0)->text(), QStringLiteral("Show Interface"));
+    QCOMPARE(entries.at(1)->text(), QStringLiteral("Exit"));
+    entries.at(0)->trigger();
+    QVERIFY(window.isVisible());
+
+    // "Exit" ends the program also while the window is hidden.
+    window.hide();
+    QVERIFY(endsTheProgram([&entries] { entries.at(1)->trigger(); }));
+}
+
+void TestShell::trayActivation()
+{
+    TestWindow world;
+    MainWindow &window = world.start();
+    window.show();
+    auto *const icon = window.findChild<QSystemTrayIcon *>();
+    for (const auto reason :
+         {QSystemTrayIcon::Trigger, QSystemTrayIcon::MiddleClick, QSystemTrayIcon::Context}) {
+        emit icon->activated(reason);
+        QVERIFY(window.isVisible());
+    }
+    emit icon->activated(QSystemTrayIcon::DoubleClick);
+    QVERIFY(!window.isVisible());
+    emit icon->activated(QSystemTrayIcon::Unknown);
+    QVERIFY(window.isVisible());
+}
+
+QTEST_MAIN(TestShell)
+#include "tst_shell.moc"

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "app/appsettings.h"
+#include "tests/support/fakeplatform.h"
+#include "tests/support/guitest.h"
+#include "ui/mainwindow.h"
+
+#include <QDir>
+#include <QImage>
+#include <QTemporaryDir>
+
+#include <memory>
+
+/// A main window in a world of its own: a throw-away documents folder, a throw-away program folder
+/// as the current directory, a platform that is not the system, and a clock that the test moves.
+class TestWindow
+{
+public:
+    TestWindow()
+        : startDirectory(QDir::currentPath())
+        , settings(folder.filePath(QStringLiteral("Documents")))
+    {
+        QDir(folder.path()).mkpath(QStringLiteral("program/branding"));
+        QDir::setCurrent(folder.filePath(QStringLiteral("program")));
+    }
+    ~TestWindow()
+    {
+        window.reset();
+        QDir::setCurrent(startDirectory);
+    }
+    Q_DISABLE_COPY(TestWindow)
+
+    /// The settings file as an earlier run left it.
+    void writeSettings(const QByteArray &lines)
+    {
+        writeFile(settings.settingsIni(), "[settings]\n" + lines);
+    }
+
+    /// What a stored key holds now; "(none)" when it is missing.
+    QString stored(const SettingKey &key) const
+    {
+        return QSettings(settings.settingsIni(), QSettings::IniFormat)
+            .value(settingsPath(key), QStringLiteral("(none)"))
+            .toString();
+    }
+
+    /// Constructs the window; the settings are read but not yet applied.
+    MainWindow &construct()
+    {
+        window = std::make_unique<MainWindow>(settings, platform, [this] { return clock; });
+        return *window;
+    }
+
+    /// Constructs the window and applies the settings at once instead of a second later.
+    MainWindow &start()
+    {
+        construct();
+        window->delayedApply();
+        return *window;
+    }
+
+    template<class Widget> Widget *get(const char *name) const
+    {
+        return widget<Widget>(*window, name);
+    }
+
+    QTemporaryDir folder;
+    QString startDirectory;
+    AppSettings settings;
+    FakePlatform platform;
+    qint64 clock = 1'000'000'000'000;
+    std::unique_ptr<MainWindow> window;
+};

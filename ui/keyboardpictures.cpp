@@ -1,0 +1,44 @@
+#include "ui/keyboardpictures.h"
+
+#include <QPainter>
+
+QString pictureFile(KeyboardPicture picture)
+{
+    switch (picture) {
+    case KeyboardPicture::Left:
+        return QStringLiteral("branding/keyboard_left.png");
+    case KeyboardPicture::Centre:
+        return QStringLiteral("branding/keyboard_center.png");
+    case KeyboardPicture::Right:
+        return QStringLiteral("branding/keyboard_right.png");
+    case KeyboardPicture::Full:
+        return QStringLiteral("branding/keyboard_full.png");
+    case KeyboardPicture::Stripe:
+        return QStringLiteral("branding/stripe_lidled.png");
+    }
+    return {};
+}
+
+QColor tintColour(const ColourComponents &components, int alpha)
+{
+    const auto isChannel = [](int value) {
+        return value >= 0 && value <= 255;
+    };
+    if (!isChannel(components.red) || !isChannel(components.green) || !isChannel(components.blue)
+        || !isChannel(alpha)) {
+        return Qt::black;
+    }
+    return {components.red, components.green, components.blue, alpha};
+}
+
+QPixmap tinted(const QPixmap &picture, const QColor &colour)
+{
+    if (picture.isNull()) {
+        return picture;
+    }
+    QPixmap copy = picture;
+    QPainter painter(&copy);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(copy.rect(), QBrush(colour));
+    return copy;
+}

@@ -1,0 +1,63 @@
+#include "ui/mainwindow.h"
+
+#include "ui_mainwindow.h"
+
+#include "colorpicker/colorprocessor.h"
+
+#include <QCoreApplication>
+#include <QMenu>
+
+#include <utility>
+
+namespace {
+
+constexpr int brightnessPeriodMs = 100;
+const QString companionSegment = QStringLiteral("DashportSharedMem");
+
+} // namespace
+
+MainWindow::MainWindow(AppSettings appSettings, Platform &system, Clock systemClock,
+                       QWidget *parent)
+    : QMainWindow(parent)
+    , ui(std::make_unique<Ui::MainWindow>())
+    , settings(std::move(appSettings))
+    , platform(system)
+    , clock(std::move(systemClock))
+    , companionMemory(companionSegment)
+{
+    ui->setupUi(this);
+    colourProcessor = std::make_unique<ColorProcessor>(ui->hSelector, ui->svSelector);
+
+    if (companionMemory.isAttached()) {
+        companionMemory.detach();
+    }
+    companionTimer = new QTimer(this);
+    connect(companionTimer, SIGNAL(timeout()), this, SLOT(sharedmemtimer()));
+    QCoreApplication::instance()->installNativeEventFilter(&eventFilterForResume);
+    connect(&eventFilterForResume, SIGNAL(emitawake()), this, SLOT(suspendresumeaction()));
+    dimTimer = new QTimer(this);
+    connect(dimTimer, SIGNAL(timeout()), this, SLOT(timerDone()));
+    brightnessTimer = new QTimer(this);
+    connect(brightnessTimer, SIGNAL(timeout()), this, SLOT(brightnessapply()));
+    brightnessTimer->start(brightnessPeriodMs);
+
+    ui->colorpickframe->hide();
+    setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
+    ui->Title->setText(settings.readBranding(BrandingKeys::appName).toString());
+
+    systemtraystart();
+    LoadSettings();
+    SetAppVersion();
+    connectColourPicker();
+    SetStyle();
+    DPIfixes();
+    // Last, because the steps before may take their time: an agent finds the server or nobody.
+    startServiceServer();
+}
+
+MainWindow::~MainWindow() = default;
+
+quint32 MainWindow::now() const
+{
+    return static_cast<quint32>(clock());
+}

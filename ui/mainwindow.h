@@ -1,0 +1,188 @@
+#pragma once
+
+#include "app/appsettings.h"
+#include "colorpicker/colorprocessor.h"
+#include "lighting/commandline.h"
+#include "lighting/lightingstate.h"
+#include "lighting/myeventfilter.h"
+#include "system/types.h"
+
+#include <QMainWindow>
+#include <QPoint>
+#include <QSharedMemory>
+#include <QString>
+#include <QSystemTrayIcon>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+
+class Platform;
+class QMenu;
+class QTcpServer;
+
+namespace Ui {
+class MainWindow;
+}
+
+/// Milliseconds since the epoch.
+using Clock = std::function<qint64()>;
+
+/// The one window. It owns the lighting state, the settings, the Service Server, the tray icon and
+/// the timers; its slots read widgets, ask a core and show the answer. Every slot keeps its name:
+/// many are found by it.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// @param platform not owned; must live longer than the window
+    MainWindow(AppSettings settings, Platform &platform, Clock clock, QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+    const LightingState &lightingState() const { return lighting; }
+    const WakeSequence &wakeSequence() const { return wake; }
+    /// What the last connection received; empty before the first.
+    const QString &lastCommandLine() const { return commandLine; }
+
+signals:
+    /// Relayed to the colour sample.
+    void mouseMovedOnWindow();
+    void mouseReleasedOnWindow();
+
+public slots:
+    // mainwindow_settings.cpp: the saved state comes back, and leaves
+    void LoadSettings();
+    void delayedApply();
+    void ShutdownQuit();
+    void on_StartHidden_clicked();
+    void on_Check_CloseHides_clicked();
+
+    // mainwindow_lighting.cpp: choices become device words
+    uint GetColour(byte r, byte g, byte b, Zone zone);
+    /// @param kind 1 left, 2 centre, 3 right, 4 whole keyboard, 5 stripe / lid; others do nothing
+    void SetZoneColor(int kind, const QString &colour);
+    void brightnessapply();
+    void on_horizontalSlider_valueChanged(int value);
+    void on_backlight_on_clicked();
+    void on_backlight_off_clicked();
+    void on_Combo_Effect_currentIndexChanged(int index);
+    void on_StartHidden_2_clicked();
+    void suspendresumeaction();
+    /// @param a, b, c red, green, blue; @param d alpha; @param img number of a KeyboardPicture
+    void setKeyboardImageColor(int a, int b, int c, int d, int img);
+
+    // mainwindow_server.cpp: words go to the agent
+    void sendFortune();
+
+    // mainwindow_dimming.cpp
+    void on_CheckBox_AutoDim_clicked();
+    void on_comboDimValue_currentIndexChanged(int index);
+    void on_touch_mouse_wake_clicked();
+    void starttimerdelay();
+    void timerDone();
+    void loadFromSharedMem();
+    void sharedmemtimer();
+
+    // mainwindow_colours.cpp: the picker and its targets
+    void on_colorpick1_clicked();
+    void on_colorpick2_clicked();
+    void on_colorpick3_clicked();
+    void on_colorpick4_clicked();
+    void on_colorpick5_clicked();
+    void on_pushButton_clicked();
+    void on_pushButton_2_clicked();
+    void on_comboBox_BasicColors_currentIndexChanged(int index);
+    void updateColorRGB(const QString &RGB);
+    void updateColorHex(const QString &Hex);
+    void updateColorText(const QColor &color);
+    void selectField(QWidget *w);
+    void copyRGB();
+    void copyHex();
+    void copyHexHash();
+    void pasteHex();
+    void on_bHex_clicked();
+
+    // mainwindow_shell.cpp: frame and tray
+    void systemtraystart();
+    void show_hide(QSystemTrayIcon::ActivationReason reason);
+    void ShowInterface();
+    void on_closeButton_clicked();
+    void on_minimizeButton_clicked();
+    void SetStyle();
+    void DPIfixes();
+
+    // mainwindow_system.cpp: updates, autostart, uninstaller, per-key application
+    void SetAppVersion();
+    void on_Button_CheckforUpdate_clicked();
+    void on_Button_Update_clicked();
+    void on_Check_StartwithWindows_clicked();
+    void on_pushButton_3_clicked();
+    void on_UsePerKeyApp_clicked();
+    void on_colorpick5_3_clicked();
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
+private:
+    void restoreWindowGeometry();
+    void applyPerKeyMode(bool on);
+    void enableStripePage(bool enabled);
+    void loadColours();
+    void setLightingControlsEnabled(bool enabled);
+
+    void applyAllColours();
+    void setZoneWord(Zone zone, const QString &colour);
+    void tintPicture(int img, const QString &colour);
+    void rememberSingleColour(bool selected);
+    void showEffect(bool chosen);
+    void showBrightness(const char *suffix);
+
+    void startServiceServer();
+    void connectColourPicker();
+    void openPicker(int target);
+    void closePicker();
+    void keepExact(const QColor &colour);
+    void updateIdleTime();
+    void startPerKeyApplication();
+    quint32 now() const;
+
+    std::unique_ptr<Ui::MainWindow> ui;
+    AppSettings settings;
+    Platform &platform;
+    Clock clock;
+
+    LightingState lighting;
+    WakeSequence wake;
+    QString commandLine;
+    QTcpServer *serviceServer = nullptr;
+
+    /// Settings are being loaded: the lighting slots neither store nor raise a wake.
+    bool loadingSettings = true;
+    /// The user's brightness, 0..100; what auto-dim returns to.
+    qint32 savedBrightness = 0;
+    /// Slider value that brightnessapply() last acted on; no slider has the first one.
+    qint32 lastAppliedBrightness = 99999;
+    /// The slider has been lowered by auto-dim, so its moves are not the user's.
+    bool autoDimActive = false;
+    /// Low 32 bits of the clock at the last input that counts.
+    quint32 lastActivityMs = 0;
+    qint32 dimTimeoutMs = 0;
+
+    /// What the open picker edits: a kind of SetZoneColor().
+    qint32 pickTarget = 0;
+    std::unique_ptr<ColorProcessor> colourProcessor;
+
+    QSharedMemory companionMemory;
+    MyEventFilter eventFilterForResume;
+    QTimer *companionTimer = nullptr;
+    QTimer *dimTimer = nullptr;
+    QTimer *brightnessTimer = nullptr;
+
+    std::unique_ptr<QMenu> trayMenu; // a tray icon does not own its menu
+    QSystemTrayIcon *trayIcon = nullptr;
+    bool dragging = false;
+    QPoint pressPosition;
+};

@@ -1,0 +1,43 @@
+#include "ui/mainwindow.h"
+
+#include "ui_mainwindow.h"
+
+#include "lighting/serviceendpoint.h"
+#include "system/platform.h"
+
+#include <QDebug>
+#include <QHostAddress>
+#include <QTcpServer>
+#include <QTcpSocket>
+
+void MainWindow::startServiceServer()
+{
+    serviceServer = new QTcpServer(this);
+    const QHostAddress address(QString::fromLatin1(ServiceEndpoint::address));
+    if (serviceServer->listen(address, ServiceEndpoint::port)) {
+        platform.lengthenListenQueue(serviceServer->socketDescriptor());
+        qCritical("The Service Server is running!");
+    } else {
+        qCritical("Could not start the Service Server");
+    }
+    connect(serviceServer, SIGNAL(newConnection()), this, SLOT(sendFortune()));
+}
+
+void MainWindow::sendFortune()
+{
+    QTcpSocket *client = serviceServer->nextPendingConnection();
+    if (client == nullptr) {
+        return; // nobody to answer: the wake sequence must not move on
+    }
+    const LineChoice choice =
+        chooseLine(lighting, {ui->backlight_off->isChecked(), ui->horizontalSlider->value(), wake});
+    commandLine = choice.line;
+    wake = choice.wake;
+
+    connect(client, SIGNAL(disconnected()), client, SLOT(deleteLater()));
+    client->write(frameLine(choice.line));
+    client->disconnectFromHost();
+    if (client->state() == QAbstractSocket::UnconnectedState) {
+        client->deleteLater(); // already gone, so disconnected() may have been missed
+    }
+}

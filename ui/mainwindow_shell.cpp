@@ -1,0 +1,106 @@
+#include "ui/mainwindow.h"
+
+#include "ui_mainwindow.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QFile>
+#include <QIcon>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QTextStream>
+
+#include <cstdio>
+
+void MainWindow::systemtraystart()
+{
+    trayIcon = new QSystemTrayIcon(this);
+    trayIcon->setIcon(QIcon(QStringLiteral("branding/lumikey_system_tray.png")));
+    trayIcon->setVisible(true);
+    connect(trayIcon, SIGNAL(activated(QSystemTrayIcon::ActivationReason)), this,
+            SLOT(show_hide(QSystemTrayIcon::ActivationReason)));
+
+    auto *const exitAction = new QAction(QStringLiteral("Exit"), trayIcon);
+    connect(exitAction, SIGNAL(triggered()), this, SLOT(close()));
+    auto *const showAction = new QAction(QStringLiteral("Show Interface"), trayIcon);
+    connect(showAction, SIGNAL(triggered()), this, SLOT(ShowInterface()));
+    trayMenu = std::make_unique<QMenu>();
+    trayMenu->addAction(showAction);
+    trayMenu->addAction(exitAction);
+    trayIcon->setContextMenu(trayMenu.get());
+}
+
+void MainWindow::show_hide(QSystemTrayIcon::ActivationReason reason)
+{
+    if (reason != QSystemTrayIcon::Unknown && reason != QSystemTrayIcon::DoubleClick) {
+        return;
+    }
+    if (isVisible()) {
+        hide();
+    } else if (ui->UsePerKeyApp->isChecked()) {
+        startPerKeyApplication();
+    } else {
+        show();
+        raise();
+        setFocus(Qt::OtherFocusReason);
+        showNormal();
+        activateWindow();
+    }
+}
+
+void MainWindow::ShowInterface()
+{
+    show();
+    raise();
+    setFocus(Qt::OtherFocusReason);
+    showNormal();
+    activateWindow();
+}
+
+void MainWindow::on_closeButton_clicked()
+{
+    if (ui->Check_CloseHides->isChecked()) {
+        hide();
+    } else {
+        close();
+    }
+}
+
+void MainWindow::on_minimizeButton_clicked()
+{
+    showMinimized();
+}
+
+void MainWindow::SetStyle()
+{
+    QFile sheet(QStringLiteral(":/darkstyle/darkstyle.qss"));
+    if (!sheet.exists()) {
+        std::fputs("Unable to set stylesheet, file not found\n", stdout);
+        return;
+    }
+    if (sheet.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        qApp->setStyleSheet(QTextStream(&sheet).readAll());
+    }
+}
+
+void MainWindow::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton) {
+        dragging = true;
+        pressPosition = event->pos();
+    }
+}
+
+void MainWindow::mouseMoveEvent(QMouseEvent *event)
+{
+    if (event->buttons().testFlag(Qt::LeftButton) && dragging) {
+        move(pos() + event->pos() - pressPosition);
+    }
+}
+
+void MainWindow::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton) {
+        dragging = false;
+    }
+}
