@@ -152,6 +152,7 @@ void TestServiceServer::manyAtOnce()
     constexpr int clients = 200;
     TestWindow world;
     startRed(world);
+    QTest::qWait(1200); // the window applies its settings again a second after it was made
     std::vector<std::unique_ptr<QTcpSocket>> sockets;
     for (int i = 0; i < clients; ++i) {
         sockets.push_back(std::make_unique<QTcpSocket>());
