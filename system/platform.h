@@ -30,8 +30,8 @@ public:
     virtual void removeAutostartValue() = 0;
 
     /// Lets as many connections wait on a listening socket as the system allows, where Qt asks for
-    /// 50: one that finds the queue full may never be answered. Without effect where the system
-    /// fixes the length when listening starts (Windows).
+    /// 50: one that finds the queue full may never be answered. Windows itself may keep the length
+    /// with which listening started; it refuses what does not fit, and clients try again.
     virtual void lengthenListenQueue(qintptr socketDescriptor) = 0;
 };
 

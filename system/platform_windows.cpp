@@ -2,6 +2,8 @@
 
 #include <QSettings>
 
+#include <winsock2.h>
+
 namespace {
 
 const QString runKey =
@@ -31,7 +33,10 @@ public:
         QSettings(runKey, QSettings::NativeFormat).remove(runValue);
     }
 
-    void lengthenListenQueue(qintptr /*socketDescriptor*/) override {}
+    void lengthenListenQueue(qintptr socketDescriptor) override
+    {
+        ::listen(static_cast<SOCKET>(socketDescriptor), SOMAXCONN);
+    }
 };
 
 } // namespace

@@ -130,7 +130,7 @@ private:
     void restoreWindowGeometry();
     void applyPerKeyMode(bool on);
     void enableStripePage(bool enabled);
-    void loadColours();
+    void loadZoneColours();
     void setLightingControlsEnabled(bool enabled);
 
     void applyAllColours();

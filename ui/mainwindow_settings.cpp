@@ -101,7 +101,10 @@ void MainWindow::delayedApply()
     ui->horizontalSlider->setValue(settings.readSetting(SettingKeys::brightLevel).toInt());
     savedBrightness = ui->horizontalSlider->value();
     showBrightness("%");
-    loadColours();
+    lighting.stripeLidColor = settings.readSetting(SettingKeys::stripeLid).toString();
+    SetZoneColor(5, lighting.stripeLidColor);
+    ui->touch_mouse_wake->setChecked(settings.readSetting(SettingKeys::touchWake).toBool());
+    loadZoneColours();
 
     ui->CheckBox_AutoDim->setChecked(settings.readSetting(SettingKeys::autoDim).toBool());
     if (ui->CheckBox_AutoDim->isChecked()) {
@@ -116,12 +119,8 @@ void MainWindow::delayedApply()
     lastActivityMs = now();
 }
 
-void MainWindow::loadColours()
+void MainWindow::loadZoneColours()
 {
-    lighting.stripeLidColor = settings.readSetting(SettingKeys::stripeLid).toString();
-    SetZoneColor(5, lighting.stripeLidColor);
-    ui->touch_mouse_wake->setChecked(settings.readSetting(SettingKeys::touchWake).toBool());
-
     lighting.singleColorSelected = settings.readSetting(SettingKeys::singleColourLast).toBool();
     if (lighting.singleColorSelected) {
         const QString colour = settings.readSetting(SettingKeys::singleColour).toString();
