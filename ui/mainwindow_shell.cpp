@@ -40,11 +40,7 @@ void MainWindow::show_hide(QSystemTrayIcon::ActivationReason reason)
     } else if (ui->UsePerKeyApp->isChecked()) {
         startPerKeyApplication();
     } else {
-        show();
-        raise();
-        setFocus(Qt::OtherFocusReason);
-        showNormal();
-        activateWindow();
+        ShowInterface();
     }
 }
 

@@ -1,7 +1,7 @@
 #include "lighting/effects.h"
+#include "tests/support/pictures.h"
 #include "tests/support/serviceclient.h"
 #include "tests/support/testwindow.h"
-#include "ui/keyboardpictures.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -21,27 +21,6 @@ constexpr std::array colourWidgets{
 };
 constexpr std::array notes{"label_14", "label_16"};
 
-/// A picture whose left half is opaque and whose right half is transparent.
-void writePicture(const QString &path)
-{
-    QImage image(8, 4, QImage::Format_ARGB32);
-    image.fill(Qt::transparent);
-    for (int y = 0; y < 4; ++y) {
-        for (int x = 0; x < 4; ++x) {
-            image.setPixelColor(x, y, Qt::white);
-        }
-    }
-    if (!image.save(path)) {
-        qFatal("cannot write %s", qPrintable(path));
-    }
-}
-
-/// The colour that a label's picture has where the shape is opaque.
-QColor shownColour(const QLabel &label)
-{
-    return label.pixmap(Qt::ReturnByValue).toImage().pixelColor(1, 1);
-}
-
 } // namespace
 
 class TestLighting : public QObject
@@ -53,7 +32,6 @@ private slots:
     void zoneKinds_data();
     void zoneKinds();
     void unknownKindsChangeNothing();
-    void componentBeyond255();
     void sliderIsStoredAndAppliedLater();
     void sliderWhileOff();
     void sliderWhileAutoDimIsNotStored();
@@ -71,21 +49,13 @@ private slots:
     void stripeOption();
     void resume_data();
     void resume();
-    void tintKeepsTheShape();
-    void tintPictures_data();
-    void tintPictures();
-    void tintWithoutPicture();
-    void tintOfNoColour();
 
 private:
     static void startWithColours(TestWindow &world)
     {
         world.writeSettings("backlight_on=true\nbrightlevel=100\nZone1Color=255 0 0\n"
                             "Zone2Color=0 255 0\nZone3Color=0 0 255\nStripeLid=10 20 30\n");
-        for (const char *name : {"keyboard_left", "keyboard_center", "keyboard_right",
-                                 "keyboard_full", "stripe_lidled"}) {
-            writePicture(QStringLiteral("branding/%1.png").arg(QLatin1String(name)));
-        }
+        writePictures();
         world.start();
     }
     static QString words(const MainWindow &window)
@@ -171,23 +141,6 @@ void TestLighting::unknownKindsChangeNothing()
     }
     QCOMPARE(words(*world.window), before);
     QCOMPARE(world.stored(SettingKeys::singleColourLast), QStringLiteral("(none)"));
-}
-
-void TestLighting::componentBeyond255()
-{
-    TestWindow world;
-    startWithColours(world);
-    static int messages;
-    messages = 0;
-    const QtMessageHandler before = qInstallMessageHandler(
-        [](QtMsgType, const QMessageLogContext &, const QString &) { ++messages; });
-    world.window->SetZoneColor(1, QStringLiteral("300 0 0"));
-    world.window->SetZoneColor(1, QStringLiteral("-300 0 0"));
-    world.window->SetZoneColor(1, QStringLiteral("300 0 0"));
-    qInstallMessageHandler(before);
-    QCOMPARE(world.window->lightingState().leftWord, QString::number(0xF0002C00));
-    QCOMPARE(shownColour(*world.get<QLabel>("keyboard_left")), QColor(Qt::black));
-    QCOMPARE(messages, 0);
 }
 
 void TestLighting::sliderIsStoredAndAppliedLater()
@@ -458,65 +411,6 @@ void TestLighting::resume()
     QCOMPARE(world.window->wakeSequence().wakePending, on);
     QTRY_COMPARE_WITH_TIMEOUT(words(*world.window),
                               QStringLiteral("f000ff00 f10000ff f2ff0000 f31e0a14"), 3000);
-}
-
-void TestLighting::tintKeepsTheShape()
-{
-    QImage image(2, 1, QImage::Format_ARGB32);
-    image.setPixelColor(0, 0, QColor(10, 20, 30, 255));
-    image.setPixelColor(1, 0, QColor(10, 20, 30, 0));
-    const QImage result = tinted(QPixmap::fromImage(image), QColor(255, 0, 0, 30)).toImage();
-    QCOMPARE(result.pixelColor(0, 0).alpha(), 30);
-    QCOMPARE(result.pixelColor(0, 0).red(), 255);
-    QCOMPARE(result.pixelColor(0, 0).green(), 0);
-    QCOMPARE(result.pixelColor(1, 0).alpha(), 0);
-}
-
-void TestLighting::tintPictures_data()
-{
-    QTest::addColumn<int>("img");
-    QTest::addColumn<QString>("label");
-    QTest::newRow("left") << 1 << QStringLiteral("keyboard_left");
-    QTest::newRow("centre") << 2 << QStringLiteral("keyboard_center");
-    QTest::newRow("right") << 3 << QStringLiteral("keyboard_right");
-    QTest::newRow("full") << 4 << QStringLiteral("keyboard_full");
-    QTest::newRow("stripe") << 5 << QStringLiteral("stripe_led");
-    QTest::newRow("none") << 0 << QString();
-    QTest::newRow("beyond") << 6 << QString();
-}
-
-void TestLighting::tintPictures()
-{
-    QFETCH(int, img);
-    QFETCH(QString, label);
-    TestWindow world;
-    startWithColours(world);
-    world.window->setKeyboardImageColor(0, 200, 0, 255, img);
-    int painted = 0;
-    for (const QLabel *candidate : world.window->findChildren<QLabel *>()) {
-        const bool green = !candidate->pixmap(Qt::ReturnByValue).isNull()
-                           && shownColour(*candidate) == QColor(0, 200, 0);
-        QCOMPARE(green, candidate->objectName() == label);
-        painted += green ? 1 : 0;
-    }
-    QCOMPARE(painted, label.isEmpty() ? 0 : 1);
-}
-
-void TestLighting::tintWithoutPicture()
-{
-    TestWindow world;
-    world.start();
-    world.window->setKeyboardImageColor(1, 2, 3, 30, 4);
-    QVERIFY(world.get<QLabel>("keyboard_full")->pixmap(Qt::ReturnByValue).isNull());
-}
-
-void TestLighting::tintOfNoColour()
-{
-    QCOMPARE(tintColour({255, 0, 128}, 30), QColor(255, 0, 128, 30));
-    for (const ColourComponents &bad :
-         {ColourComponents{256, 0, 0}, ColourComponents{0, -1, 0}, ColourComponents{0, 0, 999}}) {
-        QCOMPARE(tintColour(bad, 30), QColor(Qt::black));
-    }
 }
 
 QTEST_MAIN(TestLighting)

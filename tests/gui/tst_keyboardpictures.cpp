@@ -1,0 +1,106 @@
+#include "ui/keyboardpictures.h"
+
+#include "tests/support/pictures.h"
+#include "tests/support/testwindow.h"
+
+#include <QTest>
+
+class TestKeyboardPictures : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void componentBeyond255();
+    void tintKeepsTheShape();
+    void tintPictures_data();
+    void tintPictures();
+    void tintWithoutPicture();
+    void tintOfNoColour();
+
+private:
+    static void startWithPictures(TestWindow &world)
+    {
+        world.writeSettings("backlight_on=true\nbrightlevel=100\n");
+        writePictures();
+        world.start();
+    }
+};
+
+void TestKeyboardPictures::componentBeyond255()
+{
+    TestWindow world;
+    startWithPictures(world);
+    static int messages;
+    messages = 0;
+    const QtMessageHandler before = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext &, const QString &) { ++messages; });
+    world.window->SetZoneColor(1, QStringLiteral("300 0 0"));
+    world.window->SetZoneColor(1, QStringLiteral("-300 0 0"));
+    world.window->SetZoneColor(1, QStringLiteral("300 0 0"));
+    qInstallMessageHandler(before);
+    QCOMPARE(world.window->lightingState().leftWord, QString::number(0xF0002C00));
+    QCOMPARE(shownColour(*world.get<QLabel>("keyboard_left")), QColor(Qt::black));
+    QCOMPARE(messages, 0);
+}
+
+void TestKeyboardPictures::tintKeepsTheShape()
+{
+    QImage image(2, 1, QImage::Format_ARGB32);
+    image.setPixelColor(0, 0, QColor(10, 20, 30, 255));
+    image.setPixelColor(1, 0, QColor(10, 20, 30, 0));
+    const QImage result = tinted(QPixmap::fromImage(image), QColor(255, 0, 0, 30)).toImage();
+    QCOMPARE(result.pixelColor(0, 0).alpha(), 30);
+    QCOMPARE(result.pixelColor(0, 0).red(), 255);
+    QCOMPARE(result.pixelColor(0, 0).green(), 0);
+    QCOMPARE(result.pixelColor(1, 0).alpha(), 0);
+}
+
+void TestKeyboardPictures::tintPictures_data()
+{
+    QTest::addColumn<int>("img");
+    QTest::addColumn<QString>("label");
+    QTest::newRow("left") << 1 << QStringLiteral("keyboard_left");
+    QTest::newRow("centre") << 2 << QStringLiteral("keyboard_center");
+    QTest::newRow("right") << 3 << QStringLiteral("keyboard_right");
+    QTest::newRow("full") << 4 << QStringLiteral("keyboard_full");
+    QTest::newRow("stripe") << 5 << QStringLiteral("stripe_led");
+    QTest::newRow("none") << 0 << QString();
+    QTest::newRow("beyond") << 6 << QString();
+}
+
+void TestKeyboardPictures::tintPictures()
+{
+    QFETCH(int, img);
+    QFETCH(QString, label);
+    TestWindow world;
+    startWithPictures(world);
+    world.window->setKeyboardImageColor(0, 200, 0, 255, img);
+    int painted = 0;
+    for (const QLabel *candidate : world.window->findChildren<QLabel *>()) {
+        const bool green = !candidate->pixmap(Qt::ReturnByValue).isNull()
+                           && shownColour(*candidate) == QColor(0, 200, 0);
+        QCOMPARE(green, candidate->objectName() == label);
+        painted += green ? 1 : 0;
+    }
+    QCOMPARE(painted, label.isEmpty() ? 0 : 1);
+}
+
+void TestKeyboardPictures::tintWithoutPicture()
+{
+    TestWindow world;
+    world.start();
+    world.window->setKeyboardImageColor(1, 2, 3, 30, 4);
+    QVERIFY(world.get<QLabel>("keyboard_full")->pixmap(Qt::ReturnByValue).isNull());
+}
+
+void TestKeyboardPictures::tintOfNoColour()
+{
+    QCOMPARE(tintColour({255, 0, 128}, 30), QColor(255, 0, 128, 30));
+    for (const ColourComponents &bad :
+         {ColourComponents{256, 0, 0}, ColourComponents{0, -1, 0}, ColourComponents{0, 0, 999}}) {
+        QCOMPARE(tintColour(bad, 30), QColor(Qt::black));
+    }
+}
+
+QTEST_MAIN(TestKeyboardPictures)
+#include "tst_keyboardpictures.moc"
