@@ -6,6 +6,8 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <utility>
+
 namespace {
 
 QString workPath(const SettingKey &key)
@@ -61,7 +63,7 @@ AppSettings::AppSettings(const QString &documentsFolder)
 
 QVariant AppSettings::readSetting(const SettingKey &key) const
 {
-    return readFrom(SettingsFile, settingsIniPath, key);
+    return readFrom(ReadSettings, settingsIniPath, key);
 }
 
 void AppSettings::writeSetting(const SettingKey &key, const QVariant &value) const
@@ -69,12 +71,12 @@ void AppSettings::writeSetting(const SettingKey &key, const QVariant &value) con
     const auto settings = openSettings();
     settings->setValue(settingsPath(key), inStoredForm(key, value));
     settings->sync();
-    report(SettingsFile, *settings);
+    report(WriteSettings, *settings);
 }
 
 QVariant AppSettings::readBranding(const SettingKey &key) const
 {
-    return readFrom(BrandingFile, brandingIniPath, key);
+    return readFrom(ReadBranding, brandingIniPath, key);
 }
 
 void AppSettings::writeWorkQueue(const SettingKey &key, const QVariant &value) const
@@ -82,43 +84,45 @@ void AppSettings::writeWorkQueue(const SettingKey &key, const QVariant &value) c
     QSettings settings(workIniPath, QSettings::IniFormat);
     settings.setValue(workPath(key), inStoredForm(key, value));
     settings.sync();
-    report(WorkFile, settings);
+    report(WriteWork, settings);
 }
 
 std::unique_ptr<QSettings> AppSettings::openSettings() const
 {
     QDir().mkpath(companyDirPath);
     auto settings = std::make_unique<QSettings>(settingsIniPath, QSettings::IniFormat);
-    report(SettingsFile, *settings);
+    report(ReadSettings, *settings);
     return settings;
 }
 
-QVariant AppSettings::readFrom(File file, const QString &path, const SettingKey &key) const
+QVariant AppSettings::readFrom(Access access, const QString &path, const SettingKey &key) const
 {
     const QSettings settings(path, QSettings::IniFormat);
-    report(file, settings);
+    report(access, settings);
     return settings.value(settingsPath(key), QVariant());
 }
 
-void AppSettings::report(File file, const QSettings &settings) const
+void AppSettings::report(Access access, const QSettings &settings) const
 {
     settings.allKeys(); // parses every section: damage is found now, not after a write
     QSettings::Status status = settings.status();
     if (status == QSettings::NoError && isUnreadable(settings.fileName())) {
         status = QSettings::AccessError;
     }
-    QSettings::Status &last = reported.at(file);
-    if (status == last) {
+    // Damage is told, and mended by the write itself, where the file is read.
+    const bool writes = access == WriteSettings || access == WriteWork;
+    if (writes && status == QSettings::FormatError) {
         return;
     }
-    last = status;
-    if (status == QSettings::NoError) {
+    if (std::exchange(reported.at(access), status) == status || status == QSettings::NoError) {
         return;
     }
-    const char *const trouble =
-        status == QSettings::FormatError ? "Malformed file:" : "Cannot access file:";
+    const bool malformed = status == QSettings::FormatError;
+    const char *const trouble = malformed ? "Malformed file:"
+                                : writes  ? "Cannot write file:"
+                                          : "Cannot read file:";
     qDebug().noquote() << trouble << QDir::toNativeSeparators(settings.fileName());
-    if (file == SettingsFile && status == QSettings::FormatError) {
+    if (access == ReadSettings && malformed) {
         keepDamagedSettings();
     }
 }
@@ -127,6 +131,10 @@ void AppSettings::keepDamagedSettings() const
 {
     // The next write keeps only what could be parsed, so the file as found is put aside first.
     const QString copy = settingsIniPath + QStringLiteral(".damaged");
-    QFile::remove(copy);
-    QFile::copy(settingsIniPath, copy);
+    const QString fresh = copy + QStringLiteral(".new");
+    QFile::remove(fresh);
+    if (QFile::copy(settingsIniPath, fresh)) {
+        QFile::remove(copy); // an older copy goes only when the new one is whole
+        QFile::rename(fresh, copy);
+    }
 }

@@ -44,10 +44,10 @@ public:
     static QString defaultDocumentsFolder();
 
 private:
-    enum File { SettingsFile, BrandingFile, WorkFile };
+    enum Access { ReadSettings, WriteSettings, ReadBranding, WriteWork };
 
-    QVariant readFrom(File file, const QString &path, const SettingKey &key) const;
-    void report(File file, const QSettings &settings) const;
+    QVariant readFrom(Access access, const QString &path, const SettingKey &key) const;
+    void report(Access access, const QSettings &settings) const;
     void keepDamagedSettings() const;
 
     QString documentsDirPath;
@@ -55,8 +55,8 @@ private:
     QString brandingIniPath;
     QString settingsIniPath;
     QString workIniPath;
-    /// What the log was last told of each file, so that a lasting trouble is one line.
-    mutable std::array<QSettings::Status, 3> reported{};
+    /// What the log was last told of each access, so that a lasting trouble is one line.
+    mutable std::array<QSettings::Status, 4> reported{};
 };
 
 /// The full name of a key of the settings or branding file ("settings/" + name).

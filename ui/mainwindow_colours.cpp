@@ -52,6 +52,7 @@ void MainWindow::openPicker(int target)
     };
     const auto index = static_cast<std::size_t>(target) - 1;
     pickTarget = target;
+    // Hidden first: shown beside the tabs, the panel would stretch the window for good.
     ui->tabWidget_2->hide();
     ui->tabWidget->hide();
     ui->colorpickframe->show();

@@ -57,10 +57,10 @@ void MainWindow::LoadSettings()
 
 void MainWindow::restoreWindowGeometry()
 {
-    const QByteArray geometry = settings.readSetting(SettingKeys::mainWindowGeometry).toByteArray();
-    restoreGeometry(geometry);
+    const bool restored =
+        restoreGeometry(settings.readSetting(SettingKeys::mainWindowGeometry).toByteArray());
     restoreState(settings.readSetting(SettingKeys::mainWindowState).toByteArray(), 0);
-    if (geometry.isEmpty()) {
+    if (!restored) { // none stored, or none that can be read
         setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, firstWindowSize,
                                         QGuiApplication::primaryScreen()->availableGeometry()));
     }

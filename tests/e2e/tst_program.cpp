@@ -271,7 +271,7 @@ void TestProgram::documentsFolderIsAFile()
     QTest::qWait(appliedAfterMs);
     QCOMPARE(ServiceClient::readLine(), offLine);
     QCOMPARE(readFile(program->documents()), QByteArray("not a folder"));
-    QVERIFY(program->log().contains("Cannot access file: "));
+    QVERIFY(program->log().contains("Cannot write file: "));
 }
 
 void TestProgram::settingsPathIsADirectory()

@@ -34,7 +34,7 @@ private slots:
     void unknownKindsChangeNothing();
     void sliderIsStoredAndAppliedLater();
     void sliderWhileOff();
-    void sliderWhileAutoDimIsNotStored();
+    void autoDimBoxShowsItsState();
     void brightnessTimerRuns();
     void off();
     void onAgain();
@@ -177,15 +177,16 @@ void TestLighting::sliderWhileOff()
     // Skipped, but remembered: switching on applies the colours at the new brightness.
     world.get<QRadioButton>("backlight_on")->click();
     QCOMPARE(words(*world.window), QStringLiteral("f0004c00 f100004c f24c0000 f3000000"));
+    world.window->brightnessapply(); // nothing left to apply: the stripe stays black
+    QCOMPARE(words(*world.window), QStringLiteral("f0004c00 f100004c f24c0000 f3000000"));
 }
 
-void TestLighting::sliderWhileAutoDimIsNotStored()
+void TestLighting::autoDimBoxShowsItsState()
 {
     TestWindow world;
     startWithColours(world);
     world.get<QSlider>("horizontalSlider")->setValue(60);
     QCOMPARE(world.stored(SettingKeys::brightLevel), QStringLiteral("60"));
-    // Unchecking auto-dim brings back the user's brightness, whatever the slider showed.
     auto *const box = world.get<QAbstractButton>("CheckBox_AutoDim");
     box->click();
     QCOMPARE(world.get<QLabel>("label_2")->text(),
@@ -379,6 +380,7 @@ void TestLighting::stripeOption()
     auto *const box = world.get<QAbstractButton>("StartHidden_2");
     QVERIFY(!tabs->isTabEnabled(2));
     const QString before = words(*world.window);
+    tabs->setTabVisible(2, false);
     box->click();
     QVERIFY(tabs->isTabEnabled(2));
     QVERIFY(tabs->isTabVisible(2));

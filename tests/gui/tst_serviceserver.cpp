@@ -197,6 +197,7 @@ void TestServiceServer::clientThatTalks()
     QVERIFY(socket.waitForConnected());
     socket.write("hello");
     QTRY_COMPARE(socket.state(), QAbstractSocket::UnconnectedState);
+    QCOMPARE(ServiceClient::lineOf(socket.readAll()), wakeLine);
     QCOMPARE(ServiceClient::readLine(), wakeLine); // the next is served as ever
 }
 

@@ -1,4 +1,5 @@
 #include "lighting/devicewords.h"
+#include "tests/support/serviceclient.h"
 #include "tests/support/testwindow.h"
 
 #include <QCheckBox>
@@ -19,6 +20,16 @@ namespace {
 
 constexpr std::array lightingControls{"horizontalSlider", "tabWidget_2", "Combo_Effect",
                                       "CheckBox_AutoDim", "comboDimValue"};
+
+/// Repeating timers of the window that run with this period.
+int runningTimers(const MainWindow &window, int periodMs)
+{
+    int count = 0;
+    for (const QTimer *timer : window.findChildren<QTimer *>()) {
+        count += timer->isActive() && timer->interval() == periodMs ? 1 : 0;
+    }
+    return count;
+}
 
 } // namespace
 
@@ -50,6 +61,12 @@ private slots:
     void stripePageFollowsItsOption();
     void perKeyMode();
     void perKeyModeNeverApplies();
+    void companionTimerStartsWithTheApplication();
+    void dimDelayIsStored();
+    void applyingRaisesAWake_data();
+    void applyingRaisesAWake();
+    void loadedBrightnessIsTheUsers();
+    void loadingAgainStoresNoClick();
     void autostartBox_data();
     void autostartBox();
     void autostartBoxWritesTheEntry();
@@ -365,6 +382,68 @@ void TestSettings::perKeyModeNeverApplies()
     QTest::qWait(1500);
     QCOMPARE(world.get<QSlider>("horizontalSlider")->value(), 100);
     QCOMPARE(state.stripeWord, QStringLiteral("3758616583"));
+    QCOMPARE(runningTimers(*world.window, 1000), 0);
+}
+
+void TestSettings::companionTimerStartsWithTheApplication()
+{
+    TestWindow world;
+    world.construct();
+    QCOMPARE(runningTimers(*world.window, 1000), 0);
+    world.window->delayedApply();
+    QCOMPARE(runningTimers(*world.window, 1000), 1);
+}
+
+void TestSettings::dimDelayIsStored()
+{
+    TestWindow world;
+    world.writeSettings("backlight_on=true\n");
+    world.start().show();
+    auto *const list = world.get<QComboBox>("comboDimValue");
+    for (int index = 1; index < list->count(); ++index) {
+        QTest::keyClick(list, Qt::Key_Down);
+        QCOMPARE(world.stored(SettingKeys::dimTimer), QString::number(index));
+    }
+}
+
+void TestSettings::applyingRaisesAWake_data()
+{
+    QTest::addColumn<bool>("on");
+    QTest::newRow("on") << true;
+    QTest::newRow("off") << false;
+}
+
+void TestSettings::applyingRaisesAWake()
+{
+    QFETCH(bool, on);
+    TestWindow world;
+    world.writeSettings(on ? "backlight_on=true\nbrightlevel=100\n" : "backlight_on=false\n");
+    MainWindow &window = world.construct();
+    ServiceClient::readLine();
+    ServiceClient::readLine();
+    QVERIFY(!window.wakeSequence().wakePending);
+    window.delayedApply();
+    QCOMPARE(window.wakeSequence().wakePending, on);
+}
+
+void TestSettings::loadedBrightnessIsTheUsers()
+{
+    TestWindow world;
+    world.writeSettings("backlight_on=true\nbrightlevel=100\n"); // the slider's own first value
+    world.start();
+    auto *const box = world.get<QCheckBox>("CheckBox_AutoDim");
+    box->click();
+    box->click(); // goes back to the user's brightness
+    QCOMPARE(world.get<QSlider>("horizontalSlider")->value(), 100);
+}
+
+void TestSettings::loadingAgainStoresNoClick()
+{
+    TestWindow world;
+    world.writeSettings("backlight_on=true\nbrightlevel=100\n");
+    world.start().LoadSettings();
+    world.get<QRadioButton>("backlight_off")->click();
+    QCOMPARE(world.stored(SettingKeys::backlightOn), QStringLiteral("true"));
 }
 
 void TestSettings::autostartBox_data()
@@ -444,11 +523,7 @@ void TestSettings::autoDimStartsFiveSecondsLater()
     world.writeSettings("backlight_on=true\nAutoDim=true\n");
     MainWindow &window = world.start();
     const auto running = [&window] {
-        int timers = 0;
-        for (const QTimer *timer : window.findChildren<QTimer *>()) {
-            timers += timer->isActive() && timer->interval() == 100 ? 1 : 0;
-        }
-        return timers;
+        return runningTimers(window, 100);
     };
     QCOMPARE(running(), 1); // the brightness timer alone
     QTest::qWait(4000);
@@ -475,6 +550,9 @@ void TestSettings::badFiles()
     TestWindow world;
     writeFile(world.settings.settingsIni(), content);
     MainWindow &window = world.start();
+    QCOMPARE(window.size(), QSize(630, 630));
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    QVERIFY((window.geometry().center() - screen.center()).manhattanLength() <= 2);
     window.show();
     QCOMPARE(world.get<QSlider>("horizontalSlider")->value(), 0);
     QVERIFY(world.get<QRadioButton>("backlight_off")->isChecked());

@@ -37,6 +37,7 @@ private slots:
     void damagedFileIsPutAside();
     void directoryInPlaceOfTheFile();
     void fileInPlaceOfTheFolder();
+    void troubleIsLoggedOnce_data();
     void troubleIsLoggedOnce();
     void badBrandingIsLeftAlone();
 
@@ -159,7 +160,6 @@ void TestAppSettings::folderIsMadeBeforeTheFirstWrite()
     QVERIFY(!QFileInfo::exists(settings->companyDir()));
     settings->writeSetting(SettingKeys::brightLevel, 5);
     QVERIFY(QFileInfo(settings->settingsIni()).isFile());
-    QDir(folder->path()).remove(QStringLiteral("Documents"));
 }
 
 void TestAppSettings::everyWriteIsOnDiskAtOnce()
@@ -238,6 +238,8 @@ void TestAppSettings::damagedFileIsPutAside()
 {
     const QByteArray content("[settings]\nZone1Color=1 2 3\nbrightle");
     writeFile(settings->settingsIni(), content);
+    QTest::ignoreMessage(QtDebugMsg,
+                         qPrintable(QStringLiteral("Malformed file: ") + settings->settingsIni()));
     settings->writeSetting(SettingKeys::effects, 3);
     QCOMPARE(settings->readSetting(SettingKeys::leftColour).toString(), QStringLiteral("1 2 3"));
     QCOMPARE(readFile(settings->settingsIni() + QStringLiteral(".damaged")), content);
@@ -264,11 +266,34 @@ void TestAppSettings::fileInPlaceOfTheFolder()
     QCOMPARE(settings->readSetting(SettingKeys::effects).toInt(), 4);
 }
 
+void TestAppSettings::troubleIsLoggedOnce_data()
+{
+    QTest::addColumn<QString>("obstacle");
+    QTest::addColumn<bool>("isFolder");
+    QTest::addColumn<QStringList>("troubles");
+    QTest::newRow("directory in place of the file")
+        << QStringLiteral("Documents/Corvane/Lumikey/lumikey.ini") << true
+        << QStringList{QStringLiteral("Cannot read file:"), QStringLiteral("Cannot write file:")};
+    QTest::newRow("file in place of the folder")
+        << QStringLiteral("Documents/Corvane") << false
+        << QStringList{QStringLiteral("Cannot write file:")};
+    QTest::newRow("file in place of the documents")
+        << QStringLiteral("Documents") << false
+        << QStringList{QStringLiteral("Cannot write file:")};
+}
+
 void TestAppSettings::troubleIsLoggedOnce()
 {
+    QFETCH(QString, obstacle);
+    QFETCH(bool, isFolder);
+    QFETCH(QStringList, troubles);
+    if (isFolder) {
+        QVERIFY(QDir().mkpath(obstacle));
+    } else {
+        writeFile(obstacle, "in the way");
+    }
     static QStringList log;
     log.clear();
-    QVERIFY(QDir().mkpath(settings->settingsIni()));
     const QtMessageHandler before =
         qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
             log << QString::number(type) + QLatin1Char(' ') + text;
@@ -278,9 +303,12 @@ void TestAppSettings::troubleIsLoggedOnce()
         settings->writeSetting(SettingKeys::effects, i);
     }
     qInstallMessageHandler(before);
-    QCOMPARE(log, QStringList(QStringLiteral("%1 Cannot access file: %2")
-                                  .arg(QtDebugMsg)
-                                  .arg(settings->settingsIni())));
+    QStringList expected;
+    for (const QString &trouble : troubles) {
+        expected
+            << QStringLiteral("%1 %2 %3").arg(QtDebugMsg).arg(trouble, settings->settingsIni());
+    }
+    QCOMPARE(log, expected);
 }
 
 void TestAppSettings::badBrandingIsLeftAlone()
