@@ -4,7 +4,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
@@ -58,8 +57,6 @@ private slots:
     void stripeLoads();
     void wordsWhileLoading();
     void loadingStoresNoChoice();
-    void stripePageFollowsItsOption();
-    void perKeyMode();
     void perKeyModeNeverApplies();
     void companionTimerStartsWithTheApplication();
     void dimDelayIsStored();
@@ -67,12 +64,6 @@ private slots:
     void applyingRaisesAWake();
     void loadedBrightnessIsTheUsers();
     void loadingAgainStoresNoClick();
-    void autostartBox_data();
-    void autostartBox();
-    void autostartBoxWritesTheEntry();
-    void title_data();
-    void title();
-    void geometryIsSavedAndRestored();
     void autoDimStartsFiveSecondsLater();
     void badFiles_data();
     void badFiles();
@@ -341,38 +332,6 @@ void TestSettings::loadingStoresNoChoice()
     QCOMPARE(world.stored(SettingKeys::backlightOff), QStringLiteral("(none)"));
 }
 
-void TestSettings::stripePageFollowsItsOption()
-{
-    TestWindow world;
-    world.start();
-    QVERIFY(!world.get<QTabWidget>("tabWidget_2")->isTabEnabled(2));
-    world.writeSettings("P751LEDStripe=true\n");
-    world.start();
-    QVERIFY(world.get<QTabWidget>("tabWidget_2")->isTabEnabled(2));
-}
-
-void TestSettings::perKeyMode()
-{
-    TestWindow world;
-    world.writeSettings("PerKey=true\n");
-    world.construct();
-    for (const char *name :
-         {"horizontalSlider", "backlight_on", "backlight_off", "touch_mouse_wake", "StartHidden_2",
-          "CheckBox_AutoDim", "comboDimValue", "Combo_Effect"}) {
-        QVERIFY2(!world.get<QWidget>(name)->isEnabled(), name);
-    }
-    auto *const tabs = world.get<QTabWidget>("tabWidget_2");
-    for (int page = 0; page < 4; ++page) {
-        QCOMPARE(tabs->isTabVisible(page), page == 3);
-    }
-
-    world.writeSettings("PerKey=false\n");
-    world.construct();
-    for (int page = 0; page < 4; ++page) {
-        QCOMPARE(world.get<QTabWidget>("tabWidget_2")->isTabVisible(page), page != 3);
-    }
-}
-
 void TestSettings::perKeyModeNeverApplies()
 {
     TestWindow world;
@@ -444,77 +403,6 @@ void TestSettings::loadingAgainStoresNoClick()
     world.start().LoadSettings();
     world.get<QRadioButton>("backlight_off")->click();
     QCOMPARE(world.stored(SettingKeys::backlightOn), QStringLiteral("true"));
-}
-
-void TestSettings::autostartBox_data()
-{
-    const QString own = QDir::toNativeSeparators(QCoreApplication::applicationFilePath());
-    QTest::addColumn<QString>("entry");
-    QTest::addColumn<bool>("checked");
-    QTest::newRow("this program") << own << true;
-    QTest::newRow("other case") << own.toUpper() << false;
-    QTest::newRow("other folder") << QStringLiteral("D:\\Tools\\Lumikey.exe") << false;
-    QTest::newRow("quoted") << QLatin1Char('"') + own + QLatin1Char('"') << false;
-}
-
-void TestSettings::autostartBox()
-{
-    QFETCH(QString, entry);
-    TestWindow world;
-    world.platform.autostart = entry;
-    world.construct();
-    QTEST(world.get<QCheckBox>("Check_StartwithWindows")->isChecked(), "checked");
-    QCOMPARE(world.platform.autostart.value_or(QString()), entry); // only read
-}
-
-void TestSettings::autostartBoxWritesTheEntry()
-{
-    TestWindow world;
-    world.construct();
-    auto *const box = world.get<QCheckBox>("Check_StartwithWindows");
-    QVERIFY(!box->isChecked()); // no entry
-    box->click();
-    QCOMPARE(world.platform.autostart.value_or(QString()),
-             QDir::toNativeSeparators(QCoreApplication::applicationFilePath()));
-    box->click();
-    QVERIFY(!world.platform.autostart);
-}
-
-void TestSettings::title_data()
-{
-    QTest::addColumn<QByteArray>("branding");
-    QTest::addColumn<QString>("title");
-    QTest::newRow("named") << QByteArray("[settings]\nappname=Night Light\n")
-                           << QStringLiteral("Night Light");
-    QTest::newRow("no name") << QByteArray("[settings]\n") << QString();
-    QTest::newRow("binary") << QByteArray("\0\xff\1[", 4) << QString();
-    QTest::newRow("no file") << QByteArray() << QString();
-}
-
-void TestSettings::title()
-{
-    QFETCH(QByteArray, branding);
-    TestWindow world;
-    if (!branding.isEmpty()) {
-        writeFile(QStringLiteral("branding/lumikey_branding.ini"), branding);
-    }
-    world.construct();
-    QTEST(world.get<QLabel>("Title")->text(), "title");
-}
-
-void TestSettings::geometryIsSavedAndRestored()
-{
-    TestWindow world;
-    MainWindow &window = world.start();
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    window.setGeometry(37, 53, 700, 660);
-    QTRY_COMPARE(window.geometry(), QRect(37, 53, 700, 660));
-    window.ShutdownQuit();
-    QVERIFY(world.stored(SettingKeys::mainWindowGeometry) != QStringLiteral("(none)"));
-    QVERIFY(world.stored(SettingKeys::mainWindowState) != QStringLiteral("(none)"));
-
-    QCOMPARE(world.construct().geometry(), QRect(37, 53, 700, 660));
 }
 
 void TestSettings::autoDimStartsFiveSecondsLater()

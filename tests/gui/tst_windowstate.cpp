@@ -1,0 +1,129 @@
+#include "tests/support/testwindow.h"
+
+#include <QCheckBox>
+#include <QCoreApplication>
+#include <QLabel>
+#include <QTabWidget>
+#include <QTest>
+
+/// What of the window itself is kept or derived at start: pages, place, title, autostart.
+class TestWindowState : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void stripePageFollowsItsOption();
+    void perKeyMode();
+    void autostartBox_data();
+    void autostartBox();
+    void autostartBoxWritesTheEntry();
+    void title_data();
+    void title();
+    void geometryIsSavedAndRestored();
+};
+
+void TestWindowState::stripePageFollowsItsOption()
+{
+    TestWindow world;
+    world.start();
+    QVERIFY(!world.get<QTabWidget>("tabWidget_2")->isTabEnabled(2));
+    world.writeSettings("P751LEDStripe=true\n");
+    world.start();
+    QVERIFY(world.get<QTabWidget>("tabWidget_2")->isTabEnabled(2));
+}
+
+void TestWindowState::perKeyMode()
+{
+    TestWindow world;
+    world.writeSettings("PerKey=true\n");
+    world.construct();
+    for (const char *name :
+         {"horizontalSlider", "backlight_on", "backlight_off", "touch_mouse_wake", "StartHidden_2",
+          "CheckBox_AutoDim", "comboDimValue", "Combo_Effect"}) {
+        QVERIFY2(!world.get<QWidget>(name)->isEnabled(), name);
+    }
+    auto *const tabs = world.get<QTabWidget>("tabWidget_2");
+    for (int page = 0; page < 4; ++page) {
+        QCOMPARE(tabs->isTabVisible(page), page == 3);
+    }
+
+    world.writeSettings("PerKey=false\n");
+    world.construct();
+    for (int page = 0; page < 4; ++page) {
+        QCOMPARE(world.get<QTabWidget>("tabWidget_2")->isTabVisible(page), page != 3);
+    }
+}
+
+void TestWindowState::autostartBox_data()
+{
+    const QString own = QDir::toNativeSeparators(QCoreApplication::applicationFilePath());
+    QTest::addColumn<QString>("entry");
+    QTest::addColumn<bool>("checked");
+    QTest::newRow("this program") << own << true;
+    QTest::newRow("other case") << own.toUpper() << false;
+    QTest::newRow("other folder") << QStringLiteral("D:\\Tools\\Lumikey.exe") << false;
+    QTest::newRow("quoted") << QLatin1Char('"') + own + QLatin1Char('"') << false;
+}
+
+void TestWindowState::autostartBox()
+{
+    QFETCH(QString, entry);
+    TestWindow world;
+    world.platform.autostart = entry;
+    world.construct();
+    QTEST(world.get<QCheckBox>("Check_StartwithWindows")->isChecked(), "checked");
+    QCOMPARE(world.platform.autostart.value_or(QString()), entry); // only read
+}
+
+void TestWindowState::autostartBoxWritesTheEntry()
+{
+    TestWindow world;
+    world.construct();
+    auto *const box = world.get<QCheckBox>("Check_StartwithWindows");
+    QVERIFY(!box->isChecked()); // no entry
+    box->click();
+    QCOMPARE(world.platform.autostart.value_or(QString()),
+             QDir::toNativeSeparators(QCoreApplication::applicationFilePath()));
+    box->click();
+    QVERIFY(!world.platform.autostart);
+}
+
+void TestWindowState::title_data()
+{
+    QTest::addColumn<QByteArray>("branding");
+    QTest::addColumn<QString>("title");
+    QTest::newRow("named") << QByteArray("[settings]\nappname=Night Light\n")
+                           << QStringLiteral("Night Light");
+    QTest::newRow("no name") << QByteArray("[settings]\n") << QString();
+    QTest::newRow("binary") << QByteArray("\0\xff\1[", 4) << QString();
+    QTest::newRow("no file") << QByteArray() << QString();
+}
+
+void TestWindowState::title()
+{
+    QFETCH(QByteArray, branding);
+    TestWindow world;
+    if (!branding.isEmpty()) {
+        writeFile(QStringLiteral("branding/lumikey_branding.ini"), branding);
+    }
+    world.construct();
+    QTEST(world.get<QLabel>("Title")->text(), "title");
+}
+
+void TestWindowState::geometryIsSavedAndRestored()
+{
+    TestWindow world;
+    MainWindow &window = world.start();
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    window.setGeometry(37, 53, 700, 660);
+    QTRY_COMPARE(window.geometry(), QRect(37, 53, 700, 660));
+    window.ShutdownQuit();
+    QVERIFY(world.stored(SettingKeys::mainWindowGeometry) != QStringLiteral("(none)"));
+    QVERIFY(world.stored(SettingKeys::mainWindowState) != QStringLiteral("(none)"));
+
+    QCOMPARE(world.construct().geometry(), QRect(37, 53, 700, 660));
+}
+
+QTEST_MAIN(TestWindowState)
+#include "tst_windowstate.moc"
