@@ -2,19 +2,38 @@
 
 #include "app/startup.h"
 
+#include <QByteArray>
 #include <QString>
 
+#include <bitset>
+#include <functional>
 #include <memory>
+#include <optional>
+
+/// One flag for each virtual-key code 0..253. Codes 1 to 6 are the mouse buttons and cancel, the
+/// others keys; which key has which code is the system's own affair.
+using KeyPresses = std::bitset<254>;
 
 /// The only door to the operating system. One implementation a system, chosen by the build; tests
-/// hand in their own. All calls are made on the GUI thread and return at once.
+/// hand in their own. All calls are made on the GUI thread; they return at once but for those that
+/// say otherwise.
 class Platform
 {
 public:
+    /// How an attempt to start the program again with administrator rights ended.
+    enum class Relaunch {
+        Launched, ///< the elevated process runs; this one is to end
+        NoPath,   ///< the program's own path could not be told
+        Declined, ///< the user did not consent
+        Failed,   ///< anything else
+    };
+
     Platform() = default;
     Platform(const Platform &) = delete;
     Platform &operator=(const Platform &) = delete;
     virtual ~Platform() = default;
+
+    // Start-up
 
     /// How this system names the program's executable in an autostart entry.
     virtual ExecutableForm executableForm() const = 0;
@@ -29,10 +48,55 @@ public:
     /// Ends that. A failed write is silent.
     virtual void removeAutostartValue() = 0;
 
+    /// The log-in name of the user whose process this is; nothing when it cannot be told.
+    virtual std::optional<QString> userName() const = 0;
+
     /// Lets as many connections wait on a listening socket as the system allows, where Qt asks for
     /// 50: one that finds the queue full may never be answered. Windows itself may keep the length
     /// with which listening started; it refuses what does not fit, and clients try again.
     virtual void lengthenListenQueue(qintptr socketDescriptor) = 0;
+
+    // Input and sleep
+
+    /// The codes pressed since the last call, in whatever window; none where the system does not
+    /// tell. The first call may report presses from before it.
+    virtual KeyPresses keysPressedSinceLastPoll() = 0;
+
+    /// Whether a native event is the system's notice that it has resumed from sleep.
+    /// @param eventType, message as a QAbstractNativeEventFilter receives them
+    virtual bool isResumeMessage(const QByteArray &eventType, const void *message) const = 0;
+
+    /// From now on calls @p resumed each time the machine has resumed from sleep, where the system
+    /// tells it otherwise than by a native event. A later call replaces the function; an empty one
+    /// ends the notices.
+    virtual void notifyOfResume(std::function<void()> resumed) = 0;
+
+    /// Blocks the thread for @p milliseconds.
+    virtual void sleep(int milliseconds) = 0;
+
+    // Rights
+
+    /// Whether the process has administrator rights.
+    /// @throws quint32 the system's error code, when that cannot be told
+    virtual bool isElevated() const = 0;
+
+    /// Starts the program again, without arguments, with administrator rights. Blocks while the
+    /// system asks the user for consent.
+    virtual Relaunch relaunchElevated() = 0;
+
+    /// Ends the process at once: no destructors, nothing saved. Returns in tests only.
+    virtual void endProcess(int exitCode) = 0;
+
+    // Others' places
+
+    /// Starts a program with a window of its own and does not wait; a failure goes unnoticed.
+    /// @param commandLine as the system's own, relative to the current directory
+    virtual void launch(const QString &commandLine) = 0;
+
+    /// Tells the driver behind the firmware interface which library describes that interface. A
+    /// failed write is silent.
+    /// @param libraryPath relative to the system's folder
+    virtual void setFirmwareInterfaceLibrary(const QString &libraryPath) = 0;
 };
 
 /// The running system's implementation.

@@ -1,13 +1,25 @@
 #include "system/platform.h"
 
 #include "system/desktopentry.h"
+#include "system/logindwatch.h"
+#include "system/polkit.h"
+#include "system/x11keypresses.h"
 
+#include <QCoreApplication>
+#include <QDebug>
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QSaveFile>
 #include <QStandardPaths>
+#include <QThread>
 
+#include <cstdlib>
+#include <utility>
+
+#include <pwd.h>
 #include <sys/socket.h>
+#include <unistd.h>
 
 namespace {
 
@@ -51,10 +63,75 @@ public:
 
     void removeAutostartValue() override { QFile::remove(autostartFile()); }
 
+    std::optional<QString> userName() const override
+    {
+        const passwd *const user = ::getpwuid(::geteuid());
+        if (user == nullptr) {
+            return std::nullopt;
+        }
+        return QFile::decodeName(user->pw_name);
+    }
+
     void lengthenListenQueue(qintptr socketDescriptor) override
     {
         ::listen(static_cast<int>(socketDescriptor), SOMAXCONN);
     }
+
+    KeyPresses keysPressedSinceLastPoll() override
+    {
+        if (!keyPresses) {
+            keyPresses = std::make_unique<X11KeyPresses>();
+        }
+        return keyPresses->takePresses();
+    }
+
+    /// logind tells it.
+    bool isResumeMessage(const QByteArray & /*eventType*/, const void * /*message*/) const override
+    {
+        return false;
+    }
+
+    void notifyOfResume(std::function<void()> resumed) override
+    {
+        logindWatch.reset();
+        if (resumed) {
+            logindWatch = std::make_unique<LogindWatch>(std::move(resumed));
+        }
+    }
+
+    void sleep(int milliseconds) override
+    {
+        QThread::msleep(static_cast<unsigned long>(milliseconds));
+    }
+
+    bool isElevated() const override { return ::geteuid() == 0; }
+
+    Relaunch relaunchElevated() override
+    {
+        const QString path = QFile::symLinkTarget(QStringLiteral("/proc/self/exe"));
+        return QFile::exists(path) ? Polkit::relaunch(path) : Relaunch::NoPath;
+    }
+
+    void endProcess(int exitCode) override { std::_Exit(exitCode); }
+
+    void launch(const QString &commandLine) override
+    {
+        QStringList words = QProcess::splitCommand(QDir::fromNativeSeparators(commandLine));
+        if (!words.isEmpty()) {
+            const QString program = words.takeFirst();
+            QProcess::startDetached(program, words);
+        }
+    }
+
+    /// There is no such driver here.
+    void setFirmwareInterfaceLibrary(const QString &libraryPath) override
+    {
+        qDebug() << "No firmware interface to register a library with:" << libraryPath;
+    }
+
+private:
+    std::unique_ptr<X11KeyPresses> keyPresses;
+    std::unique_ptr<LogindWatch> logindWatch;
 };
 
 } // namespace

@@ -2,13 +2,30 @@
 
 #include <QSettings>
 
+#include <array>
+#include <cstdlib>
+
 #include <winsock2.h>
+
+#include <windows.h>
+
+#include <lmcons.h>
+#include <shellapi.h>
 
 namespace {
 
 const QString runKey =
     QStringLiteral("HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Run");
 const QString runValue = QStringLiteral("Lumikey");
+const QString firmwareDriverKey =
+    QStringLiteral("HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\WmiAcpi");
+const QString firmwareLibraryValue = QStringLiteral("MofImagePath");
+
+/// The system's error code of the call before, as the interface throws it.
+quint32 lastError()
+{
+    return ::GetLastError();
+}
 
 class WindowsPlatform final : public Platform
 {
@@ -33,9 +50,91 @@ public:
         QSettings(runKey, QSettings::NativeFormat).remove(runValue);
     }
 
+    std::optional<QString> userName() const override
+    {
+        std::array<wchar_t, UNLEN + 1> name = {};
+        auto size = static_cast<DWORD>(name.size());
+        if (::GetUserNameW(name.data(), &size) == 0) {
+            return std::nullopt;
+        }
+        return QString::fromWCharArray(name.data());
+    }
+
     void lengthenListenQueue(qintptr socketDescriptor) override
     {
         ::listen(static_cast<SOCKET>(socketDescriptor), SOMAXCONN);
+    }
+
+    KeyPresses keysPressedSinceLastPoll() override
+    {
+        KeyPresses presses;
+        for (std::size_t code = 0; code < presses.size(); ++code) {
+            const auto state = static_cast<quint16>(::GetAsyncKeyState(static_cast<int>(code)));
+            presses.set(code, (state & 0xFFU) == 1);
+        }
+        return presses;
+    }
+
+    bool isResumeMessage(const QByteArray & /*eventType*/, const void *message) const override
+    {
+        const auto *const msg = static_cast<const MSG *>(message);
+        return msg->message == WM_POWERBROADCAST && msg->wParam == PBT_APMRESUMESUSPEND;
+    }
+
+    /// Windows tells it by a message.
+    void notifyOfResume(std::function<void()> /*resumed*/) override {}
+
+    void sleep(int milliseconds) override { ::Sleep(static_cast<DWORD>(milliseconds)); }
+
+    bool isElevated() const override
+    {
+        SID_IDENTIFIER_AUTHORITY authority = SECURITY_NT_AUTHORITY;
+        PSID administrators = nullptr;
+        if (::AllocateAndInitializeSid(&authority, 2, SECURITY_BUILTIN_DOMAIN_RID,
+                                       DOMAIN_ALIAS_RID_ADMINS, 0, 0, 0, 0, 0, 0, &administrators)
+            == 0) {
+            throw lastError();
+        }
+        BOOL isMember = FALSE;
+        const BOOL told = ::CheckTokenMembership(nullptr, administrators, &isMember);
+        const quint32 error = lastError(); // before freeing may change it
+        ::FreeSid(administrators);
+        if (told == 0) {
+            throw error;
+        }
+        return isMember != FALSE;
+    }
+
+    Relaunch relaunchElevated() override
+    {
+        std::array<wchar_t, MAX_PATH> path = {};
+        const DWORD length =
+            ::GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+        if (length == 0 || length == path.size()) { // the latter: cut short
+            return Relaunch::NoPath;
+        }
+        SHELLEXECUTEINFOW info = {};
+        info.cbSize = sizeof info;
+        info.lpVerb = L"runas";
+        info.lpFile = path.data();
+        info.nShow = SW_SHOWNORMAL;
+        if (::ShellExecuteExW(&info) != 0) {
+            return Relaunch::Launched;
+        }
+        return ::GetLastError() == ERROR_CANCELLED ? Relaunch::Declined : Relaunch::Failed;
+    }
+
+    void endProcess(int exitCode) override { std::_Exit(exitCode); }
+
+    void launch(const QString &commandLine) override
+    {
+        ::WinExec(commandLine.toLocal8Bit().constData(), SW_SHOW);
+    }
+
+    void setFirmwareInterfaceLibrary(const QString &libraryPath) override
+    {
+        QSettings(firmwareDriverKey, QSettings::NativeFormat)
+            .setValue(firmwareLibraryValue, libraryPath);
     }
 };
 

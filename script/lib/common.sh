@@ -7,7 +7,7 @@ set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 export LC_ALL=C.UTF-8
 
-build_packages=(cmake ninja-build g++ qtbase5-dev)
+build_packages=(cmake ninja-build g++ pkg-config qtbase5-dev libxcb-xinput-dev)
 display_packages=(xvfb openbox x11-utils fonts-dejavu-core imagemagick)
 
 # Progress goes to standard error, so that a script's result stays alone on standard output.

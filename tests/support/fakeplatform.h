@@ -2,9 +2,12 @@
 
 #include "system/platform.h"
 
+#include <QStringList>
+#include <QVector>
+
 #include <optional>
 
-/// A platform whose state a test sets and reads; it behaves like Windows.
+/// A platform whose state a test sets and whose calls it reads; it behaves like Windows.
 class FakePlatform final : public Platform
 {
 public:
@@ -18,10 +21,58 @@ public:
     }
     void setAutostartValue(const QString &path) override { autostart = path; }
     void removeAutostartValue() override { autostart.reset(); }
+    std::optional<QString> userName() const override { return user; }
     void lengthenListenQueue(qintptr socketDescriptor) override
     {
         createPlatform()->lengthenListenQueue(socketDescriptor);
     }
+    KeyPresses keysPressedSinceLastPoll() override
+    {
+        ++polls;
+        return std::exchange(presses, KeyPresses());
+    }
+    bool isResumeMessage(const QByteArray &eventType, const void * /*message*/) const override
+    {
+        return eventType == "resumed";
+    }
+    void notifyOfResume(std::function<void()> resumed) override
+    {
+        resumeNotice = std::move(resumed);
+    }
+    void sleep(int milliseconds) override { sleeps.append(milliseconds); }
+    bool isElevated() const override
+    {
+        if (elevationError) {
+            throw *elevationError;
+        }
+        return elevated;
+    }
+    Relaunch relaunchElevated() override
+    {
+        ++relaunches;
+        return relaunch;
+    }
+    void endProcess(int exitCode) override { ended = exitCode; }
+    void launch(const QString &commandLine) override { launched.append(commandLine); }
+    void setFirmwareInterfaceLibrary(const QString &libraryPath) override
+    {
+        firmwareLibrary = libraryPath;
+    }
 
+    // What the system is like
     std::optional<QString> autostart;
+    std::optional<QString> user = QStringLiteral("somebody");
+    KeyPresses presses; ///< seen by one poll
+    bool elevated = false;
+    std::optional<quint32> elevationError;
+    Relaunch relaunch = Relaunch::Launched;
+
+    // What was asked of it
+    int polls = 0;
+    std::function<void()> resumeNotice;
+    QVector<int> sleeps; ///< milliseconds
+    int relaunches = 0;
+    std::optional<int> ended;
+    QStringList launched;
+    std::optional<QString> firmwareLibrary;
 };

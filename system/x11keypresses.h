@@ -1,0 +1,32 @@
+#pragma once
+
+#include "system/platform.h"
+
+#include <memory>
+
+struct xcb_connection_t;
+
+/// Key and button presses in all windows of an X11 display, through the raw events of XInput 2. It
+/// has a connection of its own, so that it works whatever Qt talks to.
+class X11KeyPresses
+{
+public:
+    /// Connects to the display that DISPLAY names. Without one, or without XInput 2.0, nothing is
+    /// ever pressed.
+    X11KeyPresses();
+
+    /// The codes pressed since the last call.
+    KeyPresses takePresses();
+
+private:
+    struct Disconnect
+    {
+        void operator()(xcb_connection_t *connection) const;
+    };
+
+    /// Asks for the raw events; false when the display does not have them.
+    bool listen();
+
+    std::unique_ptr<xcb_connection_t, Disconnect> connection;
+    int inputExtension = 0; ///< the major opcode, by which its events are known
+};
