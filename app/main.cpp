@@ -55,8 +55,7 @@ int main(int argc, char *argv[])
     const std::unique_ptr<Platform> platform = createPlatform();
     repairWorkingDirectoryAndAutostart(*platform);
 
-    const SingleApplication application(argc, argv, false, SingleApplication::PerUser,
-                                        instanceTimeoutMs);
+    SingleApplication application(argc, argv, false, SingleApplication::PerUser, instanceTimeoutMs);
     // Set after the application exists, so Qt leaves scaling alone: the window adapts itself.
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     setFontForDpi();
@@ -64,7 +63,7 @@ int main(int argc, char *argv[])
     QApplication::setStyle(new DarkStyle); // the application takes ownership
 
     const AppSettings paths;
-    MainWindow window(paths, *platform, QDateTime::currentMSecsSinceEpoch);
+    MainWindow window(paths, *platform, application, QDateTime::currentMSecsSinceEpoch);
     QObject::connect(&application, SIGNAL(aboutToQuit()), &window, SLOT(ShutdownQuit()));
     QObject::connect(&application, &SingleApplication::instanceStarted, &window, [&window] {
         window.raise();

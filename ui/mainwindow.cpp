@@ -16,12 +16,13 @@ const QString companionSegment = QStringLiteral("DashportSharedMem");
 
 } // namespace
 
-MainWindow::MainWindow(AppSettings appSettings, Platform &system, Clock systemClock,
-                       QWidget *parent)
+MainWindow::MainWindow(AppSettings appSettings, Platform &system, PrimaryRole &role,
+                       Clock systemClock, QWidget *parent)
     : QMainWindow(parent)
     , ui(std::make_unique<Ui::MainWindow>())
     , settings(std::move(appSettings))
     , platform(system)
+    , primaryRole(role)
     , clock(std::move(systemClock))
     , companionMemory(companionSegment)
 {

@@ -18,6 +18,7 @@
 #include <memory>
 
 class Platform;
+class PrimaryRole;
 class QMenu;
 class QTcpServer;
 
@@ -36,8 +37,9 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    /// @param platform not owned; must live longer than the window
-    MainWindow(AppSettings settings, Platform &platform, Clock clock, QWidget *parent = nullptr);
+    /// @param platform, primaryRole not owned; must live longer than the window
+    MainWindow(AppSettings settings, Platform &platform, PrimaryRole &primaryRole, Clock clock,
+               QWidget *parent = nullptr);
     ~MainWindow() override;
 
     const LightingState &lightingState() const { return lighting; }
@@ -152,6 +154,7 @@ private:
     std::unique_ptr<Ui::MainWindow> ui;
     AppSettings settings;
     Platform &platform;
+    PrimaryRole &primaryRole;
     Clock clock;
 
     LightingState lighting;

@@ -2,6 +2,7 @@
 
 #include "app/appsettings.h"
 #include "tests/support/fakeplatform.h"
+#include "tests/support/fakeprimaryrole.h"
 #include "tests/support/guitest.h"
 #include "ui/mainwindow.h"
 
@@ -47,7 +48,8 @@ public:
     /// Constructs the window; the settings are read but not yet applied.
     MainWindow &construct()
     {
-        window = std::make_unique<MainWindow>(settings, platform, [this] { return clock; });
+        window =
+            std::make_unique<MainWindow>(settings, platform, primaryRole, [this] { return clock; });
         return *window;
     }
 
@@ -68,6 +70,7 @@ public:
     QString startDirectory;
     AppSettings settings;
     FakePlatform platform;
+    FakePrimaryRole primaryRole;
     qint64 clock = 1'000'000'000'000;
     std::unique_ptr<MainWindow> window;
 };
