@@ -1,7 +1,7 @@
 #include "examples/agent/options.h"
 #include "examples/agent/poller.h"
 #include "examples/agent/printer.h"
-#include "examples/agent/terminal.h"
+#include "system/terminal.h"
 
 #include <QCoreApplication>
 
@@ -13,7 +13,7 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationName(QStringLiteral("lumikey-agent"));
     QCoreApplication::setApplicationVersion(QStringLiteral(LUMIKEY_AGENT_VERSION));
 
-    const bool terminal = agent::prepareTerminal();
+    const bool terminal = Terminal::prepare();
     const auto parsed = agent::parseOptions(QCoreApplication::arguments());
     if (const auto *notice = std::get_if<agent::Notice>(&parsed)) {
         std::FILE *stream = notice->exitCode == agent::Done ? stdout : stderr;

@@ -1,10 +1,10 @@
-#include "examples/agent/terminal.h"
+#include "system/terminal.h"
 
 #include <windows.h>
 
-namespace agent {
+namespace Terminal {
 
-bool prepareTerminal()
+bool prepare()
 {
     SetConsoleOutputCP(CP_UTF8);
     const HANDLE output = GetStdHandle(STD_OUTPUT_HANDLE);
@@ -16,4 +16,4 @@ bool prepareTerminal()
     return SetConsoleMode(output, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
 }
 
-} // namespace agent
+} // namespace Terminal

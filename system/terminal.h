@@ -1,10 +1,10 @@
 #pragma once
 
-namespace agent {
+namespace Terminal {
 
 /// Makes standard output ready for ANSI sequences and UTF-8. True when it is a terminal that
 /// follows cursor control; false for files, pipes and terminals that cannot. Call once, before any
 /// output.
-bool prepareTerminal();
+bool prepare();
 
-} // namespace agent
+} // namespace Terminal

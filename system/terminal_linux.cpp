@@ -1,14 +1,14 @@
-#include "examples/agent/terminal.h"
+#include "system/terminal.h"
 
 #include <QByteArray>
 
 #include <unistd.h>
 
-namespace agent {
+namespace Terminal {
 
-bool prepareTerminal()
+bool prepare()
 {
     return isatty(STDOUT_FILENO) == 1 && qgetenv("TERM") != "dumb";
 }
 
-} // namespace agent
+} // namespace Terminal
