@@ -1,18 +1,17 @@
 #include "tests/support/programprocess.h"
 
 #include "tests/support/guitest.h"
+#include "tests/support/testsystem.h"
 
 #include <QFileInfo>
-#include <QProcessEnvironment>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QTest>
 
 ProgramProcess::ProgramProcess()
 {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("HOME"), home.path());
-    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home.filePath(QStringLiteral("config")));
-    process.setProcessEnvironment(environment);
+    TestSystem::throwAwayUser(home);
+    process.setProcessEnvironment(TestSystem::programEnvironment(programFolder()));
     process.setProcessChannelMode(QProcess::MergedChannels);
     QObject::connect(&process, &QProcess::readyRead, &process,
                      [this] { output += process.readAll(); });
@@ -24,19 +23,19 @@ ProgramProcess::~ProgramProcess()
     process.waitForFinished();
 }
 
-QString ProgramProcess::settingsFile() const
+QString ProgramProcess::documents()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+}
+
+QString ProgramProcess::settingsFile()
 {
     return documents() + QStringLiteral("/Corvane/Lumikey/lumikey.ini");
 }
 
-QString ProgramProcess::autostartFile() const
-{
-    return home.filePath(QStringLiteral("config/autostart/Lumikey.desktop"));
-}
-
 QString ProgramProcess::executable()
 {
-    return QStringLiteral(LUMIKEY_PROGRAM_PATH);
+    return QFileInfo(QStringLiteral(LUMIKEY_PROGRAM_PATH)).absoluteFilePath();
 }
 
 QString ProgramProcess::programFolder()
@@ -44,23 +43,23 @@ QString ProgramProcess::programFolder()
     return QFileInfo(executable()).absolutePath();
 }
 
-void ProgramProcess::writeSettings(const QByteArray &lines) const
+void ProgramProcess::writeSettings(const QByteArray &lines)
 {
     writeFile(settingsFile(), "[settings]\n" + lines);
 }
 
-QString ProgramProcess::stored(const char *key) const
+QString ProgramProcess::stored(const char *key)
 {
     return QSettings(settingsFile(), QSettings::IniFormat)
         .value(QStringLiteral("settings/") + QLatin1String(key), QStringLiteral("(none)"))
         .toString();
 }
 
-bool ProgramProcess::start(const QString &directory)
+bool ProgramProcess::start(const QString &directory, const QStringList &arguments)
 {
     output.clear();
     process.setWorkingDirectory(directory);
-    process.start(executable(), QStringList());
+    process.start(executable(), arguments);
     return process.waitForStarted();
 }
 
@@ -69,7 +68,7 @@ bool ProgramProcess::waitForLog(const QByteArray &text, int timeoutMs)
     return QTest::qWaitFor([&] { return output.contains(text); }, timeoutMs);
 }
 
-bool ProgramProcess::startAndServe(const QString &directory)
+bool ProgramProcess::startAndServe(const QString &directory, const QStringList &arguments)
 {
-    return start(directory) && waitForLog("The Service Server is running!");
+    return start(directory, arguments) && waitForLog("The Service Server is running!");
 }

@@ -5,7 +5,8 @@
 #include <QString>
 #include <QTemporaryDir>
 
-/// The real program as a process of its own, in a throw-away home.
+/// The real program as a process of its own, run by a throw-away user. The Windows program runs
+/// from the folder that is shipped.
 class ProgramProcess
 {
 public:
@@ -14,24 +15,24 @@ public:
     ~ProgramProcess();
     Q_DISABLE_COPY(ProgramProcess)
 
-    QString documents() const { return home.filePath(QStringLiteral("Documents")); }
-    QString settingsFile() const;
-    QString autostartFile() const;
+    static QString documents();
+    static QString settingsFile();
+    static QString executable();
     /// Folder of the executable, where its branding is.
     static QString programFolder();
-    static QString executable();
 
     /// The settings file as an earlier run left it.
-    void writeSettings(const QByteArray &lines) const;
+    static void writeSettings(const QByteArray &lines);
     /// The stored text of a key without its group; "(none)" when it is missing.
-    QString stored(const char *key) const;
+    static QString stored(const char *key);
 
     /// Starts the program in @p directory; true when the process runs.
-    bool start(const QString &directory = programFolder());
+    bool start(const QString &directory = programFolder(), const QStringList &arguments = {});
     /// Waits until the log holds @p text.
-    bool waitForLog(const QByteArray &text, int timeoutMs = 10000);
+    bool waitForLog(const QByteArray &text, int timeoutMs = 20000);
     /// Starts, and waits until the Service Server listens.
-    bool startAndServe(const QString &directory = programFolder());
+    bool startAndServe(const QString &directory = programFolder(),
+                       const QStringList &arguments = {});
 
     QByteArray log() const { return output; }
 

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+
+/// Saved settings and the lines that the program sends for them.
+namespace Lines {
+
+const QString off = QStringLiteral("3758108672,3758108672,3758108672,3758108672,0");
+const QString wake = QStringLiteral("3758616583,3758616583,3758616583,3758616583,0");
+
+constexpr const char *threeZonesSettings =
+    "backlight_on=true\nbrightlevel=100\nZone1Color=255 0 0\n"
+    "Zone2Color=0 255 0\nZone3Color=0 0 255\nStripeLid=1 2 3\n";
+const QString threeZones = QStringLiteral("4026597120,4043309311,4076797952,4077060354,0");
+
+/// Settings are applied a second after the window was made.
+constexpr int appliedAfterMs = 2000;
+
+} // namespace Lines

@@ -1,0 +1,93 @@
+#include "system/platform.h"
+#include "tests/support/programwindow.h"
+
+#include <QTest>
+#include <QWidget>
+
+/// The system's own door, under real presses: what it reports of keys and buttons.
+class TestInput : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void nothingPressed();
+    void aKeyCountsOnce();
+    void mouseButtons_data();
+    void mouseButtons();
+    void movingThePointerIsNoPress();
+
+private:
+    /// What has been reported until the presses of one input have had time to arrive.
+    KeyPresses reported();
+
+    std::unique_ptr<Platform> platform = createPlatform();
+    QWidget window;
+};
+
+void TestInput::initTestCase()
+{
+    window.setGeometry(100, 100, 300, 200);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    ProgramWindow::input(
+        {QStringLiteral("mousemove"), QStringLiteral("200"), QStringLiteral("200")});
+}
+
+void TestInput::init()
+{
+    reported();
+}
+
+KeyPresses TestInput::reported()
+{
+    KeyPresses all;
+    for (int poll = 0; poll < 5; ++poll) {
+        QTest::qWait(100);
+        all |= platform->keysPressedSinceLastPoll();
+    }
+    return all;
+}
+
+void TestInput::nothingPressed()
+{
+    QVERIFY(reported().none());
+}
+
+void TestInput::aKeyCountsOnce()
+{
+    ProgramWindow::press({QStringLiteral("a")});
+    const KeyPresses presses = reported();
+    QCOMPARE(presses.count(), std::size_t{1});
+    QVERIFY((presses >> 7).any()); // no code of the mouse
+    QVERIFY(reported().none());
+}
+
+void TestInput::mouseButtons_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<int>("code");
+    QTest::newRow("left") << QStringLiteral("1") << 1;
+    QTest::newRow("middle") << QStringLiteral("2") << 4;
+    QTest::newRow("right") << QStringLiteral("3") << 2;
+}
+
+void TestInput::mouseButtons()
+{
+    QFETCH(QString, button);
+    QFETCH(int, code);
+    ProgramWindow::input({QStringLiteral("click"), button});
+    QCOMPARE(reported(), KeyPresses().set(static_cast<std::size_t>(code)));
+    QVERIFY(reported().none());
+}
+
+void TestInput::movingThePointerIsNoPress()
+{
+    ProgramWindow::input(
+        {QStringLiteral("mousemove"), QStringLiteral("210"), QStringLiteral("210")});
+    QVERIFY(reported().none());
+}
+
+QTEST_MAIN(TestInput)
+#include "tst_input.moc"

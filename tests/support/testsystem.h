@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QByteArray>
+#include <QProcessEnvironment>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <optional>
+
+/// What the end-to-end tests ask of the system itself, past the program's own door to it. One
+/// implementation a system, chosen by the build.
+namespace TestSystem {
+
+/// Makes the settings and autostart entries of this process and of those it starts a throw-away
+/// user's. Ends the test program where that is impossible and nobody has said that the user is one.
+void throwAwayUser(const QTemporaryDir &home);
+
+/// What the program is started with: nothing but its own folder on the path, the log on its error
+/// output.
+QProcessEnvironment programEnvironment(const QString &programFolder);
+
+/// Runs a tool of the X11 desktop to its end; what it wrote. Under Wine it is the desktop around.
+QByteArray runDesktopTool(const QString &tool, const QStringList &arguments);
+
+/// The path in the autostart entry as the system keeps it; nothing when there is no entry.
+std::optional<QString> autostartEntry();
+void setAutostartEntry(const QString &path);
+
+/// A folder that autostart launches begin in; made below @p home where the system has none.
+QString systemFolder(const QTemporaryDir &home);
+
+} // namespace TestSystem

@@ -1,0 +1,88 @@
+#include "tests/support/testsystem.h"
+
+#include "tests/support/guitest.h"
+
+#include <QProcess>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QTest>
+
+namespace {
+
+const QString runKey =
+    QStringLiteral("HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Run");
+const QString runValue = QStringLiteral("Lumikey");
+
+/// A word of a shell's command line.
+QString quoted(QString word)
+{
+    return QLatin1Char('\'') + word.replace(QLatin1Char('\''), QStringLiteral("'\\''"))
+           + QLatin1Char('\'');
+}
+
+} // namespace
+
+void TestSystem::throwAwayUser(const QTemporaryDir & /*home*/)
+{
+    // No variable moves a Windows user's folders or registry.
+    if (!qEnvironmentVariableIsSet("LUMIKEY_THROW_AWAY_USER")) {
+        qFatal("these tests delete Lumikey's settings: set LUMIKEY_THROW_AWAY_USER=1 for a user "
+               "that may lose them");
+    }
+    QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+         + QStringLiteral("/Corvane"))
+        .removeRecursively();
+    QFile::remove(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+                  + QStringLiteral("/Corvane"));
+    QSettings(runKey, QSettings::NativeFormat).remove(runValue);
+}
+
+QProcessEnvironment TestSystem::programEnvironment(const QString &programFolder)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(QStringLiteral("WINEPATH"));
+    environment.insert(QStringLiteral("PATH"), QDir::toNativeSeparators(programFolder));
+    environment.insert(QStringLiteral("QT_FORCE_STDERR_LOGGING"), QStringLiteral("1"));
+    return environment;
+}
+
+QByteArray TestSystem::runDesktopTool(const QString &tool, const QStringList &arguments)
+{
+    // Wine hands the output of the desktop's programs to nobody, so a shell keeps it in a file,
+    // which gets its name when it is whole.
+    const QTemporaryDir folder(QStringLiteral("Z:/tmp/lumikey-XXXXXX"));
+    const QString shellFolder = folder.path().mid(2);
+    QString line = QStringLiteral("cd ") + quoted(shellFolder) + QStringLiteral("\n") + tool;
+    for (const QString &argument : arguments) {
+        line += QLatin1Char(' ') + quoted(argument);
+    }
+    line += QStringLiteral(" >partial\nmv partial output\n");
+    writeFile(folder.filePath(QStringLiteral("tool")), line.toUtf8());
+    QProcess::execute(QStringLiteral("cmd"),
+                      {QStringLiteral("/c"), QStringLiteral("start"), QStringLiteral("/unix"),
+                       QStringLiteral("/bin/sh"), shellFolder + QStringLiteral("/tool")});
+    const QString output = folder.filePath(QStringLiteral("output"));
+    if (!QTest::qWaitFor([&output] { return QFile::exists(output); }, 30'000)) {
+        qFatal("%s did not end", qPrintable(tool));
+    }
+    return readFile(output);
+}
+
+std::optional<QString> TestSystem::autostartEntry()
+{
+    const QSettings settings(runKey, QSettings::NativeFormat);
+    if (!settings.contains(runValue)) {
+        return std::nullopt;
+    }
+    return settings.value(runValue).toString();
+}
+
+void TestSystem::setAutostartEntry(const QString &path)
+{
+    QSettings(runKey, QSettings::NativeFormat).setValue(runValue, path);
+}
+
+QString TestSystem::systemFolder(const QTemporaryDir & /*home*/)
+{
+    return QStringLiteral("C:/windows/system32");
+}
