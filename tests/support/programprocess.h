@@ -34,11 +34,12 @@ public:
     bool startAndServe(const QString &directory = programFolder(),
                        const QStringList &arguments = {});
 
-    QByteArray log() const { return output; }
+    /// What the program has logged since it started.
+    QByteArray log() const;
 
     QTemporaryDir home;
     QProcess process;
 
 private:
-    QByteArray output;
+    QString logFile() const { return home.filePath(QStringLiteral("log")); }
 };
