@@ -67,7 +67,7 @@ QByteArray ProgramProcess::log() const
     return readFile(logFile());
 }
 
-bool ProgramProcess::waitForLog(const QByteArray &text, int timeoutMs)
+bool ProgramProcess::waitForLog(const QByteArray &text, int timeoutMs) const
 {
     return QTest::qWaitFor([&] { return log().contains(text); }, timeoutMs);
 }

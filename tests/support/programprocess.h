@@ -29,7 +29,7 @@ public:
     /// Starts the program in @p directory; true when the process runs.
     bool start(const QString &directory = programFolder(), const QStringList &arguments = {});
     /// Waits until the log holds @p text.
-    bool waitForLog(const QByteArray &text, int timeoutMs = 20000);
+    bool waitForLog(const QByteArray &text, int timeoutMs = 20000) const;
     /// Starts, and waits until the Service Server listens.
     bool startAndServe(const QString &directory = programFolder(),
                        const QStringList &arguments = {});
