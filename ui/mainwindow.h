@@ -151,6 +151,9 @@ private:
     void startPerKeyApplication();
     quint32 now() const;
 
+    /// No slider has this value.
+    static constexpr qint32 nothingApplied = 99999;
+
     std::unique_ptr<Ui::MainWindow> ui;
     AppSettings settings;
     Platform &platform;
@@ -166,8 +169,8 @@ private:
     bool loadingSettings = true;
     /// The user's brightness, 0..100; what auto-dim returns to.
     qint32 savedBrightness = 0;
-    /// Slider value that brightnessapply() last acted on; no slider has the first one.
-    qint32 lastAppliedBrightness = 99999;
+    /// Slider value that brightnessapply() last acted on.
+    qint32 lastAppliedBrightness = nothingApplied;
     /// The slider has been lowered by auto-dim, so its moves are not the user's.
     bool autoDimActive = false;
     /// Low 32 bits of the clock at the last input that counts.

@@ -2,7 +2,9 @@
 
 #include "ui_mainwindow.h"
 
+#include "lighting/autodim.h"
 #include "lighting/idletimes.h"
+#include "system/platform.h"
 
 namespace {
 
@@ -35,7 +37,7 @@ void MainWindow::on_CheckBox_AutoDim_clicked()
     settings.writeSetting(SettingKeys::autoDim, checked);
     if (checked) {
         starttimerdelay();
-        showBrightness("% (Auto dim mode)");
+        showBrightness(DimSuffix::watching);
         return;
     }
     autoDimActive = false;
@@ -50,4 +52,35 @@ void MainWindow::starttimerdelay()
     lastActivityMs = now();
     updateIdleTime();
     dimTimer->start(pollPeriodMs);
+}
+
+void MainWindow::timerDone()
+{
+    const quint32 current = now();
+    const KeyPresses presses = platform.keysPressedSinceLastPoll();
+    if (countsAsInput(presses, ui->touch_mouse_wake->isChecked())) {
+        lastActivityMs = now();
+    }
+    QSlider &slider = *ui->horizontalSlider;
+    const DimStep step =
+        dimStep({current, lastActivityMs, dimTimeoutMs, slider.value(), savedBrightness,
+                 autoDimActive, ui->Combo_Effect->currentIndex() != 0});
+
+    wake.wakePending = wake.wakePending || step.wake;
+    // Raised before the slider moves and cleared after it, so that neither move is the user's.
+    autoDimActive = autoDimActive || step.active;
+    slider.setValue(step.brightness);
+    autoDimActive = step.active;
+    if (step.sliderEnabled) {
+        slider.setEnabled(*step.sliderEnabled);
+    }
+    if (step.labelSuffix != nullptr) {
+        showBrightness(step.labelSuffix);
+    }
+    if (step.leftOff) {
+        lighting.leftWord = wordText(DeviceWords::lightingOff);
+        // The words show no brightness now: a wake before the next brightnessapply() may bring back
+        // the very value that it applied last.
+        lastAppliedBrightness = nothingApplied;
+    }
 }

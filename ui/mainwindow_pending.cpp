@@ -1,10 +1,8 @@
 // Slots that the form, the timers and the order of start-up already call at their place, and whose
-// work is still to be built: dimming polls, the companion's brightness, display scaling, updates,
+// work is still to be built: the companion's brightness, display scaling, updates,
 // the uninstaller and the switch to the per-key application.
 
 #include "ui/mainwindow.h"
-
-void MainWindow::timerDone() {}
 
 void MainWindow::loadFromSharedMem() {}
 

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "system/platform.h"
+
+#include <QtGlobal>
+
+#include <optional>
+
+/// What one poll of auto-dim goes by. Both times are the low 32 bits of a clock in milliseconds.
+struct DimInputs
+{
+    quint32 now = 0;
+    quint32 lastActivity = 0;  ///< the last input that counts, or the start of the polls
+    qint32 idleTime = 0;       ///< milliseconds without input until dimming starts
+    int brightness = 0;        ///< the slider, 0..100 percent
+    qint32 userBrightness = 0; ///< what waking returns to, 0..100 percent
+    bool active = false;       ///< the slider has been lowered by auto-dim
+    bool effectChosen = false;
+};
+
+/// What one poll does.
+struct DimStep
+{
+    int brightness = 0;                ///< the slider afterwards
+    bool active = false;               ///< as in DimInputs, afterwards
+    bool wake = false;                 ///< the agent is to re-initialise the keyboard
+    bool leftOff = false;              ///< the left word becomes the one for lighting off
+    std::optional<bool> sliderEnabled; ///< nothing: stays as it is
+    const char *labelSuffix = nullptr; ///< after the value in the brightness label; null: stays
+};
+
+namespace DimSuffix {
+constexpr const char *watching = "% (Auto dim mode)";
+constexpr const char *dimming = "% (dimming down)";
+constexpr const char *dimmed = "% (dimmed)";
+} // namespace DimSuffix
+
+/// Whether any of the presses counts as input.
+/// @param mouseWakes whether codes 1 to 6, the mouse buttons and cancel, count too
+bool countsAsInput(const KeyPresses &presses, bool mouseWakes);
+
+/// One poll: lowers the brightness by 2 points when the idle time has passed, brings the user's
+/// back when it has not, and otherwise changes nothing. A brightness of 1 or 2 is never dimmed.
+DimStep dimStep(const DimInputs &inputs);
