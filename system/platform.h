@@ -89,6 +89,14 @@ public:
 
     // Others' places
 
+    /// Runs @p action while holding the lock of a QSharedMemory segment. QSharedMemory itself waits
+    /// for a lock that another process holds, for ever if need be; this never waits.
+    /// @param nativeKey as QSharedMemory::nativeKey() tells it
+    /// @return false, with the action not run, when another process holds the lock or it is not
+    ///         this user's; a lock that does not exist is held by nobody
+    virtual bool tryWithSegmentLock(const QString &nativeKey,
+                                    const std::function<void()> &action) = 0;
+
     /// Starts a program with a window of its own and does not wait; a failure goes unnoticed.
     /// @param commandLine as the system's own, relative to the current directory
     virtual void launch(const QString &commandLine) = 0;

@@ -3,6 +3,7 @@
 #include "system/desktopentry.h"
 #include "system/logindwatch.h"
 #include "system/polkit.h"
+#include "system/segmentlock.h"
 #include "system/x11keypresses.h"
 
 #include <QCoreApplication>
@@ -113,6 +114,11 @@ public:
     }
 
     void endProcess(int exitCode) override { std::_Exit(exitCode); }
+
+    bool tryWithSegmentLock(const QString &nativeKey, const std::function<void()> &action) override
+    {
+        return SegmentLock::tryRun(nativeKey, action);
+    }
 
     void launch(const QString &commandLine) override
     {

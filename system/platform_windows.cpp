@@ -1,5 +1,7 @@
 #include "system/platform.h"
 
+#include "system/segmentlock.h"
+
 #include <QSettings>
 
 #include <array>
@@ -125,6 +127,11 @@ public:
     }
 
     void endProcess(int exitCode) override { std::_Exit(exitCode); }
+
+    bool tryWithSegmentLock(const QString &nativeKey, const std::function<void()> &action) override
+    {
+        return SegmentLock::tryRun(nativeKey, action);
+    }
 
     void launch(const QString &commandLine) override
     {

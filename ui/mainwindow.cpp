@@ -32,6 +32,8 @@ MainWindow::MainWindow(AppSettings appSettings, Platform &system, PrimaryRole &r
     if (companionMemory.isAttached()) {
         companionMemory.detach();
     }
+    // The same segment by the name that takes no lock along: the reader takes it, without waiting.
+    companionMemory.setNativeKey(companionMemory.nativeKey());
     companionTimer = new QTimer(this);
     connect(companionTimer, SIGNAL(timeout()), this, SLOT(sharedmemtimer()));
     QCoreApplication::instance()->installNativeEventFilter(&eventFilterForResume);

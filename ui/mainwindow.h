@@ -83,6 +83,8 @@ public slots:
     void on_touch_mouse_wake_clicked();
     void starttimerdelay();
     void timerDone();
+
+    // mainwindow_companion.cpp: what the companion application publishes; two names, one body
     void loadFromSharedMem();
     void sharedmemtimer();
 
@@ -148,6 +150,7 @@ private:
     void closePicker();
     void keepExact(const QColor &colour);
     void updateIdleTime();
+    QByteArray companionSegmentContents();
     void startPerKeyApplication();
     quint32 now() const;
 
@@ -182,6 +185,8 @@ private:
     std::unique_ptr<ColorProcessor> colourProcessor;
 
     QSharedMemory companionMemory;
+    /// The number that the companion published last; no brightness is the first one.
+    qint32 lastCompanionBrightness = 9999;
     MyEventFilter eventFilterForResume;
     QTimer *companionTimer = nullptr;
     QTimer *dimTimer = nullptr;

@@ -53,6 +53,10 @@ public:
         return relaunch;
     }
     void endProcess(int exitCode) override { ended = exitCode; }
+    bool tryWithSegmentLock(const QString &nativeKey, const std::function<void()> &action) override
+    {
+        return createPlatform()->tryWithSegmentLock(nativeKey, action);
+    }
     void launch(const QString &commandLine) override { launched.append(commandLine); }
     void setFirmwareInterfaceLibrary(const QString &libraryPath) override
     {
