@@ -232,7 +232,7 @@ void TestCompanionReader::damagedSegments_data()
     };
     row("one byte", "00", 1);
     row("zeros", "", 4096);
-    row("length alone", "0000000a", 4);
+    row("length alone", "00001000", 4); // a whole page on some systems
     row("length beyond the segment", "7ffffffe006f002c0035", 4096);
     row("length of null", "ffffffff006f002c0035", 4096);
     row("largest length", "fffffffe006f002c0035", 4096);

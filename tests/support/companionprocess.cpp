@@ -1,6 +1,7 @@
 #include "tests/support/companionprocess.h"
 
 #include <QDataStream>
+#include <QFileInfo>
 #include <QIODevice>
 
 namespace {
@@ -8,13 +9,18 @@ namespace {
 /// What a segment is made for when nothing is said about its size.
 constexpr int usualSize = 64;
 
+/// With its drive, where there are drives: a test may move to another one.
+const QString program = QFileInfo(QStringLiteral(LUMIKEY_COMPANION_PATH)).absoluteFilePath();
+
 } // namespace
 
 CompanionProcess::CompanionProcess()
 {
-    process.start(QStringLiteral(LUMIKEY_COMPANION_PATH), QStringList());
+    // Not the test's own folder, which is to go before this does.
+    process.setWorkingDirectory(QFileInfo(program).absolutePath());
+    process.start(program, QStringList());
     if (!process.waitForStarted()) {
-        qFatal("cannot start %s", LUMIKEY_COMPANION_PATH);
+        qFatal("cannot start %s", qPrintable(program));
     }
 }
 
