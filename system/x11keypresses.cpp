@@ -1,7 +1,10 @@
 #include "system/x11keypresses.h"
 
+#include <QSocketNotifier>
+
 #include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 #include <xcb/xcb.h>
 #include <xcb/xinput.h>
@@ -54,8 +57,14 @@ X11KeyPresses::X11KeyPresses()
 {
     if (xcb_connection_has_error(connection.get()) != 0 || !listen()) {
         connection.reset();
+        return;
     }
+    arrivals = std::make_unique<QSocketNotifier>(xcb_get_file_descriptor(connection.get()),
+                                                 QSocketNotifier::Read);
+    QObject::connect(arrivals.get(), &QSocketNotifier::activated, [this] { drain(); });
 }
+
+X11KeyPresses::~X11KeyPresses() = default;
 
 bool X11KeyPresses::listen()
 {
@@ -84,9 +93,14 @@ bool X11KeyPresses::listen()
 
 KeyPresses X11KeyPresses::takePresses()
 {
-    KeyPresses presses;
+    drain();
+    return std::exchange(presses, KeyPresses());
+}
+
+void X11KeyPresses::drain()
+{
     if (!connection) {
-        return presses;
+        return;
     }
     while (const Owned<xcb_generic_event_t> event{xcb_poll_for_event(connection.get())}) {
         const auto *const generic = reinterpret_cast<xcb_ge_generic_event_t *>(event.get());
@@ -104,7 +118,7 @@ KeyPresses X11KeyPresses::takePresses()
         }
     }
     if (xcb_connection_has_error(connection.get()) != 0) {
-        connection.reset(); // the display is gone
+        arrivals->setEnabled(false); // not deleted: it may be the caller
+        connection.reset();          // the display is gone
     }
-    return presses;
 }
