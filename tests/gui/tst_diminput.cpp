@@ -1,0 +1,192 @@
+#include "dimworld.h"
+
+class TestDimInput : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void mouseButtons_data();
+    void mouseButtons();
+    void mouseBoxIsReadByEveryPoll();
+    void effectStopsAfterTheInputWasNoted();
+    void effectWhileDimmed();
+    void uncheckingWhileDimmed();
+    void uncheckingWhileDimming();
+    void shorterIdleTimeAtOnce();
+    void userDarkens();
+    void backlightOffWhileDimmed();
+    void resumeWakes();
+};
+
+void TestDimInput::mouseButtons_data()
+{
+    QTest::addColumn<int>("code");
+    QTest::addColumn<bool>("boxChecked");
+    QTest::addColumn<bool>("counts");
+    for (int code = 0; code <= 8; ++code) {
+        const bool button = code >= 1 && code <= 6;
+        QTest::addRow("%d without the box", code) << code << false << !button;
+        QTest::addRow("%d with the box", code) << code << true << true;
+    }
+    QTest::newRow("last code") << 253 << false << true;
+}
+
+void TestDimInput::mouseButtons()
+{
+    QFETCH(int, code);
+    QFETCH(bool, boxChecked);
+    QFETCH(bool, counts);
+    DimWorld world;
+    world.startDimming();
+    world.get<QCheckBox>("touch_mouse_wake")->setChecked(boxChecked);
+    world.clock += 4800;
+    world.pollWithPress(static_cast<std::size_t>(code)); // delays dimming, or not
+    world.poll();
+    QCOMPARE(world.shown(), counts ? 100 : 98);
+    world.pollUntilDimmed();
+    world.pollWithPress(static_cast<std::size_t>(code)); // wakes, or not
+    QCOMPARE(world.shown(), counts ? 100 : 0);
+}
+
+void TestDimInput::mouseBoxIsReadByEveryPoll()
+{
+    DimWorld world;
+    world.startDimming();
+    world.pollUntilDimmed();
+    auto *const box = world.get<QCheckBox>("touch_mouse_wake");
+    world.pollWithPress(DimWorld::leftButton);
+    QCOMPARE(world.shown(), 0);
+    box->click();
+    world.poll(); // the press before is gone
+    QCOMPARE(world.shown(), 0);
+    world.pollWithPress(DimWorld::leftButton);
+    QCOMPARE(world.shown(), 100);
+}
+
+void TestDimInput::effectStopsAfterTheInputWasNoted()
+{
+    DimWorld world;
+    world.startDimming();
+    auto *const effect = world.get<QComboBox>("Combo_Effect");
+    effect->setCurrentIndex(3);
+    const QString shownThen = world.label();
+    world.clock += 3'600'000;
+    for (int count = 0; count < 10; ++count) {
+        world.poll();
+    }
+    QCOMPARE(world.shown(), 100);
+    QCOMPARE(world.label(), shownThen);
+    world.pollWithPress(DimWorld::aKey);
+    effect->setCurrentIndex(0);
+    world.poll();
+    QCOMPARE(world.shown(), 100); // the key has counted
+    world.clock += 4900;
+    world.poll();
+    QCOMPARE(world.shown(), 98);
+}
+
+void TestDimInput::effectWhileDimmed()
+{
+    DimWorld world;
+    world.serveDimming();
+    world.pollUntilDimmed();
+    world.get<QComboBox>("Combo_Effect")->setCurrentIndex(1);
+    world.pollWithPress(DimWorld::aKey);
+    QCOMPARE(world.shown(), 0); // stays where it is
+    QCOMPARE(ServiceClient::readLine(),
+             QStringLiteral("3758108672,3758108672,3758108672,3758108672,268607488"));
+    QVERIFY(!world.wakePending());
+    world.get<QComboBox>("Combo_Effect")->setCurrentIndex(0);
+    world.poll();
+    QCOMPARE(world.shown(), 100);
+    QVERIFY(world.wakePending());
+}
+
+void TestDimInput::uncheckingWhileDimmed()
+{
+    DimWorld world;
+    world.serveDimming();
+    world.pollUntilDimmed();
+    world.get<QCheckBox>("CheckBox_AutoDim")->click();
+    QCOMPARE(world.shown(), 100);
+    QVERIFY(world.enabled());
+    QCOMPARE(world.label(), QStringLiteral("Brightness Level: 100%"));
+    QVERIFY(!world.wakePending());
+    const int pollsThen = world.platform.polls;
+    world.clock += 3'600'000;
+    QTest::qWait(300);
+    QCOMPARE(world.platform.polls, pollsThen);
+    QCOMPARE(world.shown(), 100);
+}
+
+void TestDimInput::uncheckingWhileDimming()
+{
+    DimWorld world;
+    world.startDimming("brightlevel=71\n");
+    world.clock += 5000;
+    world.poll();
+    world.poll();
+    QCOMPARE(world.shown(), 67);
+    world.get<QCheckBox>("CheckBox_AutoDim")->click();
+    QCOMPARE(world.shown(), 71);
+    world.get<QSlider>("horizontalSlider")->setValue(20); // the user's from here on
+    QCOMPARE(world.stored(SettingKeys::brightLevel), QStringLiteral("20"));
+}
+
+void TestDimInput::shorterIdleTimeAtOnce()
+{
+    DimWorld world;
+    world.startDimming("brightlevel=100\ndimtimer=8\n");
+    world.clock += 60'000;
+    world.poll();
+    QCOMPARE(world.shown(), 100);
+    world.get<QComboBox>("comboDimValue")->setCurrentIndex(2);
+    world.poll();
+    QCOMPARE(world.shown(), 98);
+}
+
+void TestDimInput::userDarkens()
+{
+    DimWorld world;
+    world.startDimming();
+    world.get<QSlider>("horizontalSlider")->setValue(0);
+    world.clock += 5000;
+    world.poll();
+    QCOMPARE(world.label(), QStringLiteral("Brightness Level: 0% (dimmed)"));
+    QVERIFY(world.enabled()); // the user can bring it back by hand
+    QCOMPARE(world.leftWord(), QStringLiteral("4026531840"));
+    world.pollWithPress(DimWorld::aKey);
+    QCOMPARE(world.shown(), 0);
+}
+
+void TestDimInput::backlightOffWhileDimmed()
+{
+    DimWorld world;
+    world.serveDimming();
+    world.pollUntilDimmed();
+    world.get<QAbstractButton>("backlight_off")->click();
+    QCOMPARE(ServiceClient::readLine(), DimWorldLines::dark);
+    world.pollWithPress(DimWorld::aKey);
+    QCOMPARE(world.shown(), 100);
+    QVERIFY(world.wakePending());
+    QCOMPARE(ServiceClient::readLine(), DimWorldLines::dark); // off stays off
+    QVERIFY(world.wakePending());
+    world.get<QAbstractButton>("backlight_on")->click();
+    for (const QString &line : {DimWorldLines::wake, DimWorldLines::wake, DimWorldLines::red}) {
+        QCOMPARE(ServiceClient::readLine(), line);
+    }
+}
+
+void TestDimInput::resumeWakes()
+{
+    DimWorld world;
+    world.startDimming();
+    world.pollUntilDimmed();
+    world.window->suspendresumeaction();
+    world.poll();
+    QCOMPARE(world.shown(), 100);
+    QCOMPARE(world.stored(SettingKeys::brightLevel), QStringLiteral("100"));
+}
+
+QTEST_MAIN(TestDimInput)
+#include "tst_diminput.moc"
