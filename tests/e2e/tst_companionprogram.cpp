@@ -1,0 +1,124 @@
+#include "tests/e2e/programlines.h"
+#include "tests/support/companionprocess.h"
+#include "tests/support/programprocess.h"
+#include "tests/support/serviceclient.h"
+
+#include <QElapsedTimer>
+#include <QTest>
+
+namespace {
+
+/// The program looks once a second; the words follow a tenth of a second later.
+constexpr int followsWithinMs = 5000;
+
+} // namespace
+
+/// The companion application and the program as two processes that meet in the system alone.
+class TestCompanionProgram : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void missingCompanionIsLogged();
+    void wordsFollow();
+    void nothingNewChangesNothing();
+    void hangingCompanionHoldsNobodyUp();
+    void companionComesAndGoes();
+
+private:
+    void startServing()
+    {
+        ProgramProcess::writeSettings("backlight_on=true\nbrightlevel=100\nZone1Color=255 0 0\n");
+        QVERIFY(program->startAndServe());
+        QTest::qWait(Lines::appliedAfterMs);
+        QCOMPARE(ServiceClient::readLine(), Lines::wake);
+        QCOMPARE(ServiceClient::readLine(), Lines::wake);
+        QCOMPARE(ServiceClient::readLine(), line(0xFF));
+    }
+    /// The line of a left zone of this red.
+    static QString line(quint32 red)
+    {
+        return QStringLiteral("%1,4043309056,4060086272,4076863488,0").arg(0xF0000000U | red << 8);
+    }
+
+    std::unique_ptr<ProgramProcess> program;
+};
+
+void TestCompanionProgram::init()
+{
+    program = std::make_unique<ProgramProcess>();
+}
+
+void TestCompanionProgram::missingCompanionIsLogged()
+{
+    startServing();
+    const auto message = QString::fromUtf8("Can\u00B4t attach to memory segment");
+    QTRY_VERIFY(QString::fromLocal8Bit(program->log()).count(message) >= 2);
+    QCOMPARE(ServiceClient::readLine(), line(0xFF));
+}
+
+void TestCompanionProgram::wordsFollow()
+{
+    startServing();
+    CompanionProcess companion;
+    QVERIFY2(companion.publish(QStringLiteral("lit,40,whatever")), companion.error());
+    QTRY_COMPARE_WITH_TIMEOUT(ServiceClient::readLine(), line(102), followsWithinMs);
+    QCOMPARE(ProgramProcess::stored("brightlevel"), QStringLiteral("40"));
+    QVERIFY(companion.publish(QStringLiteral("lit,0")));
+    QTRY_COMPARE_WITH_TIMEOUT(ServiceClient::readLine(), Lines::off, followsWithinMs);
+    QVERIFY(companion.publish(QStringLiteral("lit,100,")));
+    QTRY_COMPARE_WITH_TIMEOUT(ServiceClient::readLine(), line(255), followsWithinMs);
+}
+
+void TestCompanionProgram::nothingNewChangesNothing()
+{
+    startServing();
+    CompanionProcess companion;
+    QVERIFY(companion.publish(QStringLiteral("lit,40")));
+    QTRY_COMPARE_WITH_TIMEOUT(ServiceClient::readLine(), line(102), followsWithinMs);
+    for (const char *text : {"dark,40", "lit,none", ""}) {
+        QVERIFY(companion.publish(QString::fromLatin1(text)));
+        QTest::qWait(1500);
+        QCOMPARE(ServiceClient::readLine(), line(102));
+    }
+    QVERIFY(companion.publishBytes(QByteArray::fromHex("fffffffe002c0039"), 64));
+    QTest::qWait(1500);
+    QCOMPARE(ServiceClient::readLine(), line(102));
+}
+
+void TestCompanionProgram::hangingCompanionHoldsNobodyUp()
+{
+    startServing();
+    CompanionProcess companion;
+    QVERIFY(companion.publish(QStringLiteral("lit,40")));
+    QTRY_COMPARE_WITH_TIMEOUT(ServiceClient::readLine(), line(102), followsWithinMs);
+    QVERIFY(companion.publish(QStringLiteral("lit,20")) && companion.lock());
+    // Whether it was read before the lock or not: the window answers, and goes on answering.
+    QElapsedTimer time;
+    for (time.start(); !time.hasExpired(4000);) {
+        QElapsedTimer answer;
+        answer.start();
+        QVERIFY(ServiceClient::readLine().endsWith(QStringLiteral(",4076863488,0")));
+        QVERIFY2(answer.elapsed() < 1000, qPrintable(QString::number(answer.elapsed())));
+        QTest::qWait(50);
+    }
+    QVERIFY(companion.unlock());
+    QTRY_COMPARE_WITH_TIMEOUT(ServiceClient::readLine(), line(51), followsWithinMs);
+}
+
+void TestCompanionProgram::companionComesAndGoes()
+{
+    startServing();
+    for (const int brightness : {80, 60, 40}) {
+        CompanionProcess companion;
+        QVERIFY2(companion.publish(QStringLiteral("lit,%1").arg(brightness)), companion.error());
+        const auto red = static_cast<quint32>(255 * brightness / 100);
+        QTRY_COMPARE_WITH_TIMEOUT(ServiceClient::readLine(), line(red), followsWithinMs);
+        QVERIFY(companion.lock());
+        companion.kill();
+    }
+}
+
+QTEST_MAIN(TestCompanionProgram)
+#include "tst_companionprogram.moc"
