@@ -44,7 +44,7 @@ QByteArray MainWindow::companionSegmentContents()
         attached = companionMemory.attach(QSharedMemory::ReadOnly);
         if (attached) {
             contents = QByteArray(static_cast<const char *>(companionMemory.constData()),
-                                  qMin(companionMemory.size(), longestCopy));
+                                  qBound(0, companionMemory.size(), longestCopy));
             companionMemory.detach();
         }
     });

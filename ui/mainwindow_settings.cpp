@@ -108,7 +108,11 @@ void MainWindow::delayedApply()
 
     ui->CheckBox_AutoDim->setChecked(settings.readSetting(SettingKeys::autoDim).toBool());
     if (ui->CheckBox_AutoDim->isChecked()) {
-        QTimer::singleShot(dimStartDelayMs, this, SLOT(starttimerdelay()));
+        QTimer::singleShot(dimStartDelayMs, this, [this] {
+            if (ui->CheckBox_AutoDim->isChecked()) { // not taken back meanwhile
+                starttimerdelay();
+            }
+        });
     } else {
         autoDimActive = false;
     }

@@ -12,6 +12,7 @@ private slots:
     void effectWhileDimmed();
     void uncheckingWhileDimmed();
     void uncheckingWhileDimming();
+    void uncheckingBeforeThePollsStart();
     void shorterIdleTimeAtOnce();
     void userDarkens();
     void backlightOffWhileDimmed();
@@ -131,6 +132,18 @@ void TestDimInput::uncheckingWhileDimming()
     QCOMPARE(world.shown(), 71);
     world.get<QSlider>("horizontalSlider")->setValue(20); // the user's from here on
     QCOMPARE(world.stored(SettingKeys::brightLevel), QStringLiteral("20"));
+}
+
+void TestDimInput::uncheckingBeforeThePollsStart()
+{
+    DimWorld world;
+    world.writeSettings("backlight_on=true\nAutoDim=true\n");
+    world.construct();
+    auto *const box = world.get<QCheckBox>("CheckBox_AutoDim");
+    QTRY_VERIFY_WITH_TIMEOUT(box->isChecked(), 3000);
+    box->click();
+    QTest::qWait(5500); // they would have started five seconds after the settings were applied
+    QCOMPARE(world.platform.polls, 0);
 }
 
 void TestDimInput::shorterIdleTimeAtOnce()
