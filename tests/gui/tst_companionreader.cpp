@@ -248,7 +248,7 @@ void TestCompanionReader::damagedSegments()
     QVERIFY2(companion->publishBytes(bytes, size), companion->error());
     const qint64 before = resourceUsage().memory;
     tick();
-    QVERIFY(resourceUsage().memory - before < 1024 * 1024);
+    QVERIFY(resourceUsage().memory - before < 1'000'000);
     QCOMPARE(shown(), 80);
     QVERIFY(companion->publish(QStringLiteral("on,40"))); // and the next one is read
     tick();

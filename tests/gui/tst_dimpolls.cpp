@@ -106,7 +106,7 @@ void TestDimPolls::everyUserBrightness()
     world.startDimming("brightlevel=" + QByteArray::number(brightness) + '\n');
     const QString word = world.leftWord();
     for (int night = 0; night < 2; ++night) {
-        world.clock += 8 * 3'600'000;
+        world.clock += 28'800'000; // eight hours
         for (int count = 0; count < 60; ++count) {
             world.poll();
         }

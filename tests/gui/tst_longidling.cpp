@@ -11,8 +11,8 @@ namespace {
 
 constexpr qint64 pollMs = 100;
 constexpr qint64 minuteMs = 60'000;
-/// What the heap may gain in an hour: pictures and texts that are kept once.
-constexpr qint64 heapAllowance = 512 * 1024;
+/// Bytes that the heap may gain in an hour: pictures and texts that are kept once.
+constexpr qint64 heapAllowance = 500'000;
 
 /// Everything that the window has of its own.
 struct Belongings
