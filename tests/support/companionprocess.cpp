@@ -3,6 +3,7 @@
 #include <QDataStream>
 #include <QFileInfo>
 #include <QIODevice>
+#include <QSharedMemory>
 
 namespace {
 
@@ -30,6 +31,11 @@ CompanionProcess::~CompanionProcess()
     if (process.state() != QProcess::NotRunning && !process.waitForFinished(5000)) {
         process.kill();
         process.waitForFinished();
+    }
+    // What a killed one left behind goes with the last who leaves it, not into the next test.
+    QSharedMemory left(QStringLiteral("DashportSharedMem"));
+    if (left.attach()) {
+        left.detach();
     }
 }
 
