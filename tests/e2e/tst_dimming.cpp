@@ -124,20 +124,22 @@ void TestDimming::nightAndMorning()
     while (ServiceClient::readLine() == Lines::threeZones && !time.hasExpired(3 * idleMs)) {
         QTest::qWait(15);
     }
-    QVERIFY2(time.elapsed() >= idleMs, qPrintable(QString::number(time.elapsed())));
-    QVERIFY2(time.elapsed() < idleMs + clickedMs + slackMs,
-             qPrintable(QString::number(time.elapsed())));
+    const qint64 firstStepMs = time.elapsed();
+    QVERIFY2(firstStepMs >= idleMs, qPrintable(QString::number(firstStepMs)));
+    QVERIFY2(firstStepMs < idleMs + clickedMs + slackMs, qPrintable(QString::number(firstStepMs)));
 
     // Down by two points a step; a slow reader may miss a step, but never sees another.
     const QVector<int> ramp = brightnessesUntil(Lines::off, 10'000);
-    QVERIFY2(ramp.size() > 20, qPrintable(QString::number(ramp.size())));
+    const qint64 rampMs = time.elapsed() - firstStepMs;
+    QVERIFY2(rampMs > 4000, qPrintable(QString::number(rampMs))); // 49 polls
+    QVERIFY2(ramp.size() > 10, qPrintable(QString::number(ramp.size())));
     int byTwo = 0;
     for (int i = 1; i < ramp.size(); ++i) {
         const int step = ramp.at(i - 1) - ramp.at(i);
         QVERIFY2(step > 0 && step % 2 == 0, qPrintable(QString::number(step)));
         byTwo += step == 2 ? 1 : 0;
     }
-    QVERIFY2(byTwo > ramp.size() / 2, qPrintable(QString::number(byTwo)));
+    QVERIFY2(byTwo > 2, qPrintable(QString::number(byTwo)));
 
     // Dark, and a click leaves it so.
     ProgramWindow::click(title);
