@@ -1,7 +1,7 @@
 #include "dimworld.h"
 
 #include "tests/support/companionprocess.h"
-#include "tests/support/resourceusage.h"
+#include "system/testing/resourceusage.h"
 
 #include <QTimer>
 

@@ -1,4 +1,4 @@
-#include "tests/support/resourceusage.h"
+#include "system/testing/resourceusage.h"
 
 #include <windows.h>
 

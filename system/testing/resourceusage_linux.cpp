@@ -1,4 +1,4 @@
-#include "tests/support/resourceusage.h"
+#include "system/testing/resourceusage.h"
 
 #include "tests/support/guitest.h"
 
