@@ -55,7 +55,8 @@ int main(int argc, char *argv[])
     const std::unique_ptr<Platform> platform = createPlatform();
     repairWorkingDirectoryAndAutostart(*platform);
 
-    SingleApplication application(argc, argv, false, SingleApplication::PerUser, instanceTimeoutMs);
+    SingleApplication application(argc, argv, false, SingleApplication::PerUser, instanceTimeoutMs,
+                                  *platform);
     // Set after the application exists, so Qt leaves scaling alone: the window adapts itself.
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     setFontForDpi();

@@ -51,6 +51,16 @@ public:
     /// The log-in name of the user whose process this is; nothing when it cannot be told.
     virtual std::optional<QString> userName() const = 0;
 
+    /// Waits until no other process holds the lock of that name, at most for @p timeoutMs, and
+    /// then holds it until the result is destroyed or the process ends, however it ends.
+    /// @param name letters that may stand in a file name
+    /// @return nothing when the lock cannot be had
+    virtual std::shared_ptr<void> acquireLock(const QString &name, int timeoutMs) = 0;
+
+    /// Lets another process put its window in front of all others, as this one, which the user has
+    /// just started, may. Without effect where every process may.
+    virtual void letComeToFront(qint64 processId) = 0;
+
     /// Lets as many connections wait on a listening socket as the system allows, where Qt asks for
     /// 50: one that finds the queue full may never be answered. Windows itself may keep the length
     /// with which listening started; it refuses what does not fit, and clients try again.

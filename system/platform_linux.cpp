@@ -1,6 +1,7 @@
 #include "system/platform.h"
 
 #include "system/desktopentry.h"
+#include "system/filelock.h"
 #include "system/logindwatch.h"
 #include "system/polkit.h"
 #include "system/segmentlock.h"
@@ -72,6 +73,14 @@ public:
         }
         return QFile::decodeName(user->pw_name);
     }
+
+    std::shared_ptr<void> acquireLock(const QString &name, int timeoutMs) override
+    {
+        return FileLock::acquire(QDir::temp().filePath(name + QStringLiteral(".lock")), timeoutMs);
+    }
+
+    /// Every process may.
+    void letComeToFront(qint64 /*processId*/) override {}
 
     void lengthenListenQueue(qintptr socketDescriptor) override
     {

@@ -29,6 +29,13 @@ quint32 lastError()
     return ::GetLastError();
 }
 
+void closeHandle(HANDLE handle)
+{
+    if (handle != nullptr) {
+        ::CloseHandle(handle);
+    }
+}
+
 class WindowsPlatform final : public Platform
 {
 public:
@@ -60,6 +67,29 @@ public:
             return std::nullopt;
         }
         return QString::fromWCharArray(name.data());
+    }
+
+    std::shared_ptr<void> acquireLock(const QString &name, int timeoutMs) override
+    {
+        const std::shared_ptr<void> mutex(
+            ::CreateMutexW(nullptr, FALSE, (name + QStringLiteral(".lock")).toStdWString().c_str()),
+            closeHandle);
+        if (!mutex) {
+            return nullptr;
+        }
+        // Abandoned: its holder was killed, and it is ours.
+        const DWORD result = ::WaitForSingleObject(mutex.get(), static_cast<DWORD>(timeoutMs));
+        if (result != WAIT_OBJECT_0 && result != WAIT_ABANDONED) {
+            return nullptr;
+        }
+        return {mutex.get(), [mutex](HANDLE handle) {
+                    ::ReleaseMutex(handle);
+                }};
+    }
+
+    void letComeToFront(qint64 processId) override
+    {
+        ::AllowSetForegroundWindow(static_cast<DWORD>(processId));
     }
 
     void lengthenListenQueue(qintptr socketDescriptor) override

@@ -22,6 +22,11 @@ public:
     void setAutostartValue(const QString &path) override { autostart = path; }
     void removeAutostartValue() override { autostart.reset(); }
     std::optional<QString> userName() const override { return user; }
+    std::shared_ptr<void> acquireLock(const QString &name, int timeoutMs) override
+    {
+        return createPlatform()->acquireLock(name, timeoutMs);
+    }
+    void letComeToFront(qint64 processId) override { letToFront.append(processId); }
     void lengthenListenQueue(qintptr socketDescriptor) override
     {
         createPlatform()->lengthenListenQueue(socketDescriptor);
@@ -74,7 +79,8 @@ public:
     // What was asked of it
     int polls = 0;
     std::function<void()> resumeNotice;
-    QVector<int> sleeps; ///< milliseconds
+    QVector<int> sleeps;        ///< milliseconds
+    QVector<qint64> letToFront; ///< process ids
     int relaunches = 0;
     std::optional<int> ended;
     QStringList launched;
