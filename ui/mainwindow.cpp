@@ -25,6 +25,7 @@ MainWindow::MainWindow(AppSettings appSettings, Platform &system, PrimaryRole &r
     , primaryRole(role)
     , clock(std::move(systemClock))
     , companionMemory(companionSegment)
+    , eventFilterForResume(system)
 {
     ui->setupUi(this);
     colourProcessor = std::make_unique<ColorProcessor>(ui->hSelector, ui->svSelector);

@@ -44,7 +44,13 @@ public:
     {
         resumeNotice = std::move(resumed);
     }
-    void sleep(int milliseconds) override { sleeps.append(milliseconds); }
+    void sleep(int milliseconds) override
+    {
+        sleeps.append(milliseconds);
+        if (whileAsleep) {
+            whileAsleep();
+        }
+    }
     bool isElevated() const override
     {
         if (elevationError) {
@@ -72,6 +78,7 @@ public:
     std::optional<QString> autostart;
     std::optional<QString> user = QStringLiteral("somebody");
     KeyPresses presses; ///< seen by one poll
+    std::function<void()> whileAsleep; ///< happens during each sleep
     bool elevated = false;
     std::optional<quint32> elevationError;
     Relaunch relaunch = Relaunch::Launched;
