@@ -1,0 +1,51 @@
+#include "sleepnotices.h"
+
+#include <thread>
+
+#include <windef.h>
+
+#include <winbase.h>
+#include <winuser.h>
+
+struct SleepNotices::Private
+{
+    std::thread asking; ///< waits for the answers
+};
+
+SleepNotices::SleepNotices()
+    : d(std::make_unique<Private>())
+{}
+
+SleepNotices::~SleepNotices()
+{
+    if (d->asking.joinable()) {
+        d->asking.detach(); // a window that has gone never answers
+    }
+}
+
+void SleepNotices::resume(Delivery delivery)
+{
+    switch (delivery) {
+    case Delivery::Asked:
+        if (d->asking.joinable()) {
+            d->asking.join();
+        }
+        d->asking = std::thread(
+            [] { ::SendMessageW(HWND_BROADCAST, WM_POWERBROADCAST, PBT_APMRESUMESUSPEND, 0); });
+        break;
+    case Delivery::Told:
+        ::SendNotifyMessageW(HWND_BROADCAST, WM_POWERBROADCAST, PBT_APMRESUMESUSPEND, 0);
+        break;
+    case Delivery::Queued:
+        ::PostMessageW(HWND_BROADCAST, WM_POWERBROADCAST, PBT_APMRESUMESUSPEND, 0);
+        break;
+    }
+}
+
+void SleepNotices::suspend()
+{
+    for (const WPARAM event : {PBT_APMSUSPEND, PBT_APMRESUMEAUTOMATIC, PBT_APMPOWERSTATUSCHANGE}) {
+        ::SendNotifyMessageW(HWND_BROADCAST, WM_POWERBROADCAST, event, 0);
+    }
+    ::SendNotifyMessageW(HWND_BROADCAST, WM_NULL, PBT_APMRESUMESUSPEND, 0);
+}
