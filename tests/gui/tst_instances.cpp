@@ -1,0 +1,220 @@
+#include "guardtest.h"
+
+#include "app/connectionmessage.h"
+
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QSignalSpy>
+
+using namespace GuardTest;
+
+/// The guard in several processes.
+class TestInstances : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit TestInstances(SingleApplication &guard)
+        : application(guard)
+    {}
+
+private slots:
+    void init();
+    void secondStart();
+    void anotherUser();
+    void secondaries();
+    void notifyOnSecondary();
+    void aDeadPrimaryLocksNobodyOut();
+    void aForeignPrimaryKeepsOthersOut();
+    void unreachablePrimary();
+    void lockLeftTaken();
+    void tooSmallABlock();
+    void handOverAndTakeBack();
+    void takeBackTooLate();
+
+private:
+    SingleApplication &application;
+    QString name;
+    std::unique_ptr<QSignalSpy> started;
+};
+
+void TestInstances::init()
+{
+    name = ownName(QStringLiteral("guarded"), SingleApplication::PerUser);
+    started = std::make_unique<QSignalSpy>(&application, SIGNAL(instanceStarted()));
+    QVERIFY(started->isValid());
+}
+
+void TestInstances::secondStart()
+{
+    OtherCopy copy(QStringLiteral("guarded"), false, SingleApplication::PerUser);
+    QVERIFY(copy.leaves());
+    QTRY_COMPARE(started->count(), 1);
+    QVERIFY(copy.says("front " + QByteArray::number(QCoreApplication::applicationPid())));
+    QCOMPARE(readBlock(name)->secondaryCount, 0U);
+}
+
+void TestInstances::anotherUser()
+{
+    OtherCopy copy(QStringLiteral("somebody else"), false, SingleApplication::PerUser);
+    QVERIFY(copy.stays());
+    QVERIFY(started->isEmpty());
+    OtherCopy forAll(QStringLiteral("guarded"), false, 0);
+    QVERIFY(forAll.stays());
+    QVERIFY(started->isEmpty());
+}
+
+void TestInstances::secondaries()
+{
+    const QString secondaryName = ownName(QString(), 0);
+    OtherCopy primary(QStringLiteral("a"), true, 0);
+    QVERIFY(primary.stays());
+    OtherCopy first(QStringLiteral("b"), true, 0);
+    QVERIFY(first.stays());
+    QCOMPARE(readBlock(secondaryName)->secondaryCount, 1U);
+    OtherCopy second(QStringLiteral("b"), true, 0);
+    QVERIFY(second.stays());
+    QCOMPARE(readBlock(secondaryName)->secondaryCount, 2U);
+    QTest::qWait(200);
+    QVERIFY(!primary.says("started"));
+
+    // The primary copy ends; the block stays with the others, and the next one goes on counting.
+    QVERIFY(primary.end());
+    QVERIFY(!readBlock(secondaryName)->primaryRunning);
+    QCOMPARE(readBlock(secondaryName)->primaryProcessId, -1);
+    OtherCopy next(QStringLiteral("c"), true, 0);
+    QVERIFY(next.stays());
+    QVERIFY(readBlock(secondaryName)->primaryRunning);
+    QCOMPARE(readBlock(secondaryName)->primaryProcessId, next.process.processId());
+    QCOMPARE(readBlock(secondaryName)->secondaryCount, 2U);
+    OtherCopy leaving(QStringLiteral("d"), false, 0);
+    QVERIFY(leaving.leaves());
+    QTRY_VERIFY(next.says("started"));
+}
+
+void TestInstances::notifyOnSecondary()
+{
+    OtherCopy primary(QStringLiteral("a"), true, SingleApplication::NotifyOnSecondary);
+    QVERIFY(primary.stays());
+    OtherCopy secondary(QStringLiteral("a"), true, SingleApplication::NotifyOnSecondary);
+    QVERIFY(secondary.stays());
+    QTRY_VERIFY(primary.says("started"));
+    QVERIFY(!secondary.says("started"));
+}
+
+void TestInstances::aDeadPrimaryLocksNobodyOut()
+{
+    for (int round = 0; round < 5; ++round) {
+        OtherCopy primary(QStringLiteral("killed"), false, SingleApplication::PerUser);
+        QVERIFY(primary.stays());
+        primary.process.kill();
+        QVERIFY(primary.process.waitForFinished());
+    }
+}
+
+void TestInstances::aForeignPrimaryKeepsOthersOut()
+{
+    const QString foreign = ownName(QStringLiteral("foreign"), SingleApplication::PerUser);
+    QSharedMemory memory(foreign);
+    QVERIFY(memory.create(sizeof(InstanceBlock)));
+    static_cast<InstanceBlock *>(memory.data())->primaryRunning = true;
+    QLocalServer server;
+    QLocalServer::removeServer(foreign);
+    QVERIFY(server.listen(foreign));
+
+    OtherCopy leaving(QStringLiteral("foreign"), false, SingleApplication::PerUser);
+    QVERIFY(QTest::qWaitFor([&server] { return server.hasPendingConnections(); }, 10'000));
+    QLocalSocket *const connection = server.nextPendingConnection();
+    QTRY_VERIFY(connection->bytesAvailable() > 0);
+    QCOMPARE(connection->readAll().toHex(),
+             encodeConnectionMessage(foreign, {ConnectionMessage::NewStart, 0}).toHex());
+    QVERIFY(leaving.leaves());
+
+    constexpr int options = SingleApplication::PerUser | SingleApplication::NotifyOnSecondary;
+    const QString noisy = ownName(QStringLiteral("noisy"), options);
+    QCOMPARE(noisy, ownName(QStringLiteral("noisy"), SingleApplication::PerUser));
+    QSharedMemory noisyMemory(noisy);
+    QVERIFY(noisyMemory.create(sizeof(InstanceBlock)));
+    static_cast<InstanceBlock *>(noisyMemory.data())->primaryRunning = true;
+    static_cast<InstanceBlock *>(noisyMemory.data())->secondaryCount = 41;
+    QLocalServer noisyServer;
+    QLocalServer::removeServer(noisy);
+    QVERIFY(noisyServer.listen(noisy));
+    OtherCopy secondary(QStringLiteral("noisy"), true, options);
+    QVERIFY(secondary.stays());
+    QTRY_VERIFY(noisyServer.hasPendingConnections());
+    QLocalSocket *const announced = noisyServer.nextPendingConnection();
+    QTRY_VERIFY(announced->bytesAvailable() > 0);
+    QCOMPARE(announced->readAll().toHex(),
+             encodeConnectionMessage(noisy, {ConnectionMessage::SecondaryStart, 42}).toHex());
+}
+
+void TestInstances::unreachablePrimary()
+{
+    const QString foreign = ownName(QStringLiteral("deaf"), SingleApplication::PerUser);
+    QSharedMemory memory(foreign);
+    QVERIFY(memory.create(sizeof(InstanceBlock)));
+    static_cast<InstanceBlock *>(memory.data())->primaryRunning = true;
+    OtherCopy leaving(QStringLiteral("deaf"), false, SingleApplication::PerUser);
+    QVERIFY(leaving.leaves());
+}
+
+void TestInstances::lockLeftTaken()
+{
+    OtherCopy holder(QStringLiteral("guarded"), false, SingleApplication::PerUser,
+                     QStringLiteral("--hold"));
+    QTRY_VERIFY_WITH_TIMEOUT(holder.says("holds"), 10'000);
+    holder.process.kill();
+    QVERIFY(holder.process.waitForFinished());
+    OtherCopy copy(QStringLiteral("guarded"), false, SingleApplication::PerUser);
+    QVERIFY(copy.leaves());
+    QTRY_COMPARE(started->count(), 1);
+}
+
+void TestInstances::tooSmallABlock()
+{
+    QSharedMemory memory(ownName(QStringLiteral("small"), SingleApplication::PerUser));
+    QVERIFY(memory.create(4));
+    OtherCopy copy(QStringLiteral("small"), false, SingleApplication::PerUser);
+    const bool rounded = memory.size() >= static_cast<int>(sizeof(InstanceBlock));
+    QVERIFY(rounded ? copy.stays() : copy.leaves()); // some systems give whole pages
+}
+
+void TestInstances::handOverAndTakeBack()
+{
+    application.takeBack(); // nothing was handed over
+    QVERIFY(readBlock(name)->primaryRunning);
+    application.handOver();
+    application.handOver();
+    const auto shared = readBlock(name);
+    QVERIFY(!shared || !shared->primaryRunning);
+    application.takeBack();
+    QVERIFY(readBlock(name)->primaryRunning);
+    QCOMPARE(readBlock(name)->primaryProcessId, QCoreApplication::applicationPid());
+    OtherCopy copy(QStringLiteral("guarded"), false, SingleApplication::PerUser);
+    QVERIFY(copy.leaves());
+    QTRY_COMPARE(started->count(), 1);
+}
+
+void TestInstances::takeBackTooLate()
+{
+    application.handOver();
+    OtherCopy next(QStringLiteral("guarded"), false, SingleApplication::PerUser);
+    QVERIFY(next.stays());
+    application.takeBack();
+    QCOMPARE(readBlock(name)->primaryProcessId, next.process.processId());
+    OtherCopy copy(QStringLiteral("guarded"), false, SingleApplication::PerUser);
+    QVERIFY(copy.leaves());
+    QTRY_VERIFY(next.says("started"));
+    QVERIFY(started->isEmpty());
+    QVERIFY(next.end());
+    application.takeBack(); // the other has gone
+    QCOMPARE(readBlock(name)->primaryProcessId, QCoreApplication::applicationPid());
+}
+
+int main(int argc, char **argv)
+{
+    return runGuarded<TestInstances>(argc, argv);
+}
+
+#include "tst_instances.moc"

@@ -1,0 +1,272 @@
+#include "guardtest.h"
+
+#include "app/connectionmessage.h"
+
+#include <QElapsedTimer>
+#include <QLocalSocket>
+#include <QRandomGenerator>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <thread>
+
+using namespace GuardTest;
+
+namespace {
+
+constexpr qint64 bound = 64 * 1024;
+
+} // namespace
+
+/// The guard as the primary copy, met by clients of this very process.
+class TestSingleApplication : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit TestSingleApplication(SingleApplication &guard)
+        : application(guard)
+    {}
+
+private slots:
+    void init();
+    void block();
+    void newStart();
+    void secondaryThatIsNotAnnounced();
+    void otherTypes();
+    void droppedConnections_data();
+    void droppedConnections();
+    void silentClient();
+    void oneByteAtATime();
+    void clientThatLeavesAtOnce();
+    void messages();
+    void longMessages();
+    void randomMessages();
+
+private:
+    std::unique_ptr<QLocalSocket> connectClient() const;
+    std::unique_ptr<QLocalSocket> announce(quint8 type, quint32 number = 0) const;
+
+    SingleApplication &application;
+    QString name;
+    std::unique_ptr<QSignalSpy> started;
+    std::unique_ptr<QSignalSpy> received;
+};
+
+void TestSingleApplication::init()
+{
+    name = ownName(QStringLiteral("guarded"), SingleApplication::PerUser);
+    started = std::make_unique<QSignalSpy>(&application, SIGNAL(instanceStarted()));
+    received =
+        std::make_unique<QSignalSpy>(&application, SIGNAL(receivedMessage(quint32, QByteArray)));
+    QVERIFY(started->isValid() && received->isValid());
+}
+
+std::unique_ptr<QLocalSocket> TestSingleApplication::connectClient() const
+{
+    auto client = std::make_unique<QLocalSocket>();
+    client->connectToServer(name);
+    if (!client->waitForConnected(5000)) {
+        qFatal("cannot connect: %s", qPrintable(client->errorString()));
+    }
+    return client;
+}
+
+std::unique_ptr<QLocalSocket> TestSingleApplication::announce(quint8 type, quint32 number) const
+{
+    auto client = connectClient();
+    client->write(encodeConnectionMessage(name, {type, number}));
+    client->flush();
+    return client;
+}
+
+void TestSingleApplication::block()
+{
+    const auto shared = readBlock(name);
+    QVERIFY(shared);
+    QVERIFY(shared->primaryRunning);
+    QCOMPARE(shared->primaryProcessId, QCoreApplication::applicationPid());
+    QCOMPARE(shared->secondaryCount, 0U);
+}
+
+void TestSingleApplication::newStart()
+{
+    const auto client = announce(ConnectionMessage::NewStart);
+    QTRY_COMPARE(started->count(), 1);
+    QTest::qWait(50);
+    QCOMPARE(started->count(), 1);
+    QVERIFY(received->isEmpty());
+    QCOMPARE(client->state(), QLocalSocket::ConnectedState);
+}
+
+void TestSingleApplication::secondaryThatIsNotAnnounced()
+{
+    const auto client = announce(ConnectionMessage::SecondaryStart, 3);
+    client->waitForBytesWritten(timeoutMs);
+    QTest::qWait(200);
+    QVERIFY(started->isEmpty()); // without NotifyOnSecondary
+    client->write("hello");
+    QTRY_COMPARE(received->count(), 1);
+    QCOMPARE(received->first().at(0).toUInt(), 3U);
+}
+
+void TestSingleApplication::otherTypes()
+{
+    for (const quint8 type : std::initializer_list<quint8>{0, 3, 255}) {
+        const auto client = announce(type, 9);
+        QTest::qWait(150);
+        QCOMPARE(client->state(), QLocalSocket::ConnectedState);
+    }
+    QVERIFY(started->isEmpty());
+    QVERIFY(received->isEmpty());
+}
+
+void TestSingleApplication::droppedConnections_data()
+{
+    const QString own = ownName(QStringLiteral("guarded"), SingleApplication::PerUser);
+    const QByteArray right = encodeConnectionMessage(own, {ConnectionMessage::NewStart, 0});
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("another name") << encodeConnectionMessage(
+        ownName(QStringLiteral("other"), SingleApplication::PerUser),
+        {ConnectionMessage::NewStart, 0});
+    QByteArray wrong = right;
+    wrong[wrong.size() - 1] = static_cast<char>(wrong.at(wrong.size() - 1) ^ 1);
+    QTest::newRow("wrong checksum") << wrong;
+    QTest::newRow("cut short") << right.left(30);
+    QTest::newRow("twice in one") << right + right;
+    QTest::newRow("text") << QByteArray("GET / HTTP/1.1\r\n\r\n");
+    QTest::newRow("one byte") << QByteArray("x");
+    QTest::newRow("large") << QByteArray(100'000, 'x');
+    QTest::newRow("huge length") << QByteArray::fromHex("fffffffe") + right.mid(4);
+}
+
+void TestSingleApplication::droppedConnections()
+{
+    QFETCH(QByteArray, bytes);
+    const auto client = connectClient();
+    client->write(bytes);
+    client->flush();
+    QTRY_COMPARE(client->state(), QLocalSocket::UnconnectedState);
+    QVERIFY(started->isEmpty());
+    QVERIFY(received->isEmpty());
+}
+
+void TestSingleApplication::silentClient()
+{
+    QElapsedTimer waiting;
+    waiting.start();
+    const auto client = connectClient();
+    QTRY_COMPARE(client->state(), QLocalSocket::UnconnectedState);
+    QVERIFY2(waiting.elapsed() >= 90, qPrintable(QString::number(waiting.elapsed())));
+    QVERIFY2(waiting.elapsed() < 1000, qPrintable(QString::number(waiting.elapsed())));
+    QVERIFY(started->isEmpty());
+}
+
+void TestSingleApplication::oneByteAtATime()
+{
+    const QByteArray message = encodeConnectionMessage(name, {ConnectionMessage::NewStart, 0});
+    std::thread sender([this, message] {
+        const auto client = connectClient();
+        for (const char byte : message) {
+            if (client->write(&byte, 1) != 1 || !client->waitForBytesWritten(1000)) {
+                break; // dropped
+            }
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        }
+    });
+    QTest::qWait(1500);
+    sender.join();
+    QVERIFY(started->isEmpty());
+    const auto client = announce(ConnectionMessage::NewStart);
+    QTRY_COMPARE(started->count(), 1);
+}
+
+void TestSingleApplication::clientThatLeavesAtOnce()
+{
+    for (int start = 0; start < 20; ++start) {
+        const auto client = announce(ConnectionMessage::NewStart);
+        client->waitForBytesWritten(timeoutMs);
+        client->close(); // before the primary copy has looked
+        QTRY_COMPARE(started->count(), start + 1);
+    }
+    QTRY_VERIFY(application.findChildren<QLocalSocket *>().isEmpty());
+}
+
+void TestSingleApplication::messages()
+{
+    auto client = announce(ConnectionMessage::NewStart, 5);
+    QTRY_COMPARE(started->count(), 1);
+    client->write("first");
+    QTRY_COMPARE(received->count(), 1);
+    client->write("second");
+    QTRY_COMPARE(received->count(), 2);
+    client->write("last");
+    client->waitForBytesWritten(timeoutMs);
+    client.reset();
+    QTRY_COMPARE(received->count(), 3);
+    QByteArrayList texts;
+    for (const QList<QVariant> &arguments : qAsConst(*received)) {
+        QCOMPARE(arguments.at(0).toUInt(), 5U);
+        texts.append(arguments.at(1).toByteArray());
+    }
+    QCOMPARE(texts, QByteArrayList({"first", "second", "last"}));
+}
+
+void TestSingleApplication::longMessages()
+{
+    const auto client = announce(ConnectionMessage::NewStart);
+    QTRY_COMPARE(started->count(), 1);
+    const auto length = [this] {
+        qint64 sum = 0;
+        for (const QList<QVariant> &arguments : qAsConst(*received)) {
+            sum += arguments.at(1).toByteArray().size();
+        }
+        return sum;
+    };
+    client->write(QByteArray(bound, 'x'));
+    QTRY_COMPARE(length(), bound);
+    QTest::qWait(100);
+    QCOMPARE(client->state(), QLocalSocket::ConnectedState);
+    client->write("y");
+    QTRY_COMPARE(client->state(), QLocalSocket::UnconnectedState);
+
+    const auto flood = announce(ConnectionMessage::NewStart);
+    QTRY_COMPARE(started->count(), 2);
+    flood->write(QByteArray(16 * bound, 'x'));
+    QTRY_COMPARE(flood->state(), QLocalSocket::UnconnectedState);
+    QCOMPARE(length(), 2 * bound);
+}
+
+void TestSingleApplication::randomMessages()
+{
+    QRandomGenerator random(5);
+    const QByteArray right = encodeConnectionMessage(name, {ConnectionMessage::NewStart, 0});
+    for (int round = 0; round < 10'000; ++round) {
+        QByteArray bytes = right;
+        if (random.bounded(2) == 0) { // anything at all, else a message with some bytes changed
+            bytes.resize(1 + random.bounded(100));
+            std::generate(bytes.begin(), bytes.end(),
+                          [&random] { return static_cast<char>(random.bounded(256)); });
+        } else {
+            for (int change = random.bounded(1, 4); change > 0; --change) {
+                const int place = random.bounded(bytes.size());
+                bytes[place] = static_cast<char>(bytes.at(place) + change);
+            }
+        }
+        const auto client = connectClient();
+        client->write(bytes);
+        client->flush();
+        QTRY_COMPARE_WITH_TIMEOUT(client->state(), QLocalSocket::UnconnectedState, 5000);
+    }
+    QVERIFY(started->isEmpty());
+    QVERIFY(received->isEmpty());
+    const auto client = announce(ConnectionMessage::NewStart);
+    QTRY_COMPARE(started->count(), 1);
+}
+
+int main(int argc, char **argv)
+{
+    return GuardTest::runGuarded<TestSingleApplication>(argc, argv);
+}
+
+#include "tst_singleapplication.moc"
