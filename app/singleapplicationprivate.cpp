@@ -36,6 +36,22 @@ InstanceIdentity ownIdentity(const Platform &platform)
             QStandardPaths::standardLocations(QStandardPaths::HomeLocation)};
 }
 
+/// Makes sure that the lock of the block can be had, though a process was killed that held it:
+/// Windows never gives it back, and QSharedMemory waits for ever. Under the start lock nobody alive
+/// holds it for long.
+void freeBlockLock(const QString &serverName)
+{
+    QSystemSemaphore lock(serverName, 1);
+    auto taken = std::async(std::launch::async, [&lock] { return lock.acquire(); });
+    if (taken.wait_for(blockLockTimeout) != std::future_status::ready) {
+        qWarning("The lock of the running copies was left taken; giving it back.");
+        QSystemSemaphore(serverName, 1).release();
+    }
+    if (taken.get()) {
+        lock.release();
+    }
+}
+
 InstanceBlock &contents(QSharedMemory &block)
 {
     return *static_cast<InstanceBlock *>(block.data());
@@ -86,6 +102,7 @@ SingleApplicationPrivate::Role SingleApplicationPrivate::takeRole(bool allowSeco
 {
     // The block's own lock does not cover its making and its end, so starts come one by one.
     const auto startLock = platform.acquireLock(serverName, startLockTimeoutMs);
+    freeBlockLock(serverName);
     block = std::make_unique<QSharedMemory>(serverName);
     // Where the system keeps the block of a killed process, the last one to leave it removes it.
     if (block->attach()) {
@@ -93,7 +110,7 @@ SingleApplicationPrivate::Role SingleApplicationPrivate::takeRole(bool allowSeco
     }
     const bool created = block->create(sizeof(InstanceBlock));
     const bool attached = created || block->attach();
-    if (!attached || block->size() < static_cast<int>(sizeof(InstanceBlock)) || !lockBlock()) {
+    if (!attached || block->size() < static_cast<int>(sizeof(InstanceBlock)) || !block->lock()) {
         block.reset();
         return Role::Leaving;
     }
@@ -121,28 +138,15 @@ void SingleApplicationPrivate::giveRoleBack()
     if (!block) {
         return;
     }
-    const bool locked = lockBlock();
+    freeBlockLock(serverName);
+    block->lock();
     if (server) {
         server.reset();
         contents(*block).primaryRunning = false;
         contents(*block).primaryProcessId = -1;
     }
-    if (locked) {
-        block->unlock();
-    }
+    block->unlock();
     block.reset();
-}
-
-/// Locks the block, also when a process was killed that held the lock: Windows never gives it back,
-/// and QSharedMemory waits for ever. Under the start lock nobody alive holds it for long.
-bool SingleApplicationPrivate::lockBlock()
-{
-    auto locked = std::async(std::launch::async, [this] { return block->lock(); });
-    if (locked.wait_for(blockLockTimeout) != std::future_status::ready) {
-        qWarning("The lock of the running copies was left taken; giving it back.");
-        QSystemSemaphore(serverName, 0).release();
-    }
-    return locked.get();
 }
 
 /// The block is locked.

@@ -45,7 +45,6 @@ private:
 
     Role takeRole(bool allowSecondary);
     void giveRoleBack();
-    bool lockBlock();
     void becomePrimary(bool reset);
     void connectToPrimary(int timeoutMs, ConnectionMessage::Type type);
     void listenTo(QLocalSocket *client, quint32 instanceId);
