@@ -1,3 +1,4 @@
+#include "programlines.h"
 #include "sleepnotices.h"
 
 #include "tests/support/programprocess.h"
@@ -8,12 +9,7 @@
 
 namespace {
 
-const QString wakeLine = QStringLiteral("3758616583,3758616583,3758616583,3758616583,0");
-const QString offLine = QStringLiteral("3758108672,3758108672,3758108672,3758108672,0");
 const QString blackLine = QStringLiteral("4026531840,4043309056,4060086272,4076863488,0");
-const QString colouredLine = QStringLiteral("4026597120,4043309311,4076797952,4077060354,0");
-constexpr const char *colours = "brightlevel=100\nZone1Color=255 0 0\nZone2Color=0 255 0\n"
-                                "Zone3Color=0 0 255\nStripeLid=1 2 3\n";
 constexpr const char *ping = "PING PBT_APMRESUMESUSPEND";
 
 constexpr qint64 settlingMs = 10'000;
@@ -40,7 +36,7 @@ private slots:
     void otherNotices();
 
 private:
-    void startWithColours(const QByteArray &settings);
+    void startWithColours(const QByteArray &settings, const QString &line = Lines::threeZones);
     int pings() const { return program->log().count(ping); }
 
     std::unique_ptr<SleepNotices> sleep;
@@ -56,19 +52,18 @@ void TestResume::init()
 }
 
 /// Starts and drinks the wake lines of the start.
-void TestResume::startWithColours(const QByteArray &settings)
+void TestResume::startWithColours(const QByteArray &settings, const QString &line)
 {
-    program->writeSettings(settings + colours);
+    ProgramProcess::writeSettings(settings);
     QVERIFY(program->startAndServe());
-    const QString line = settings.contains("backlight_on=true") ? colouredLine : offLine;
     QTRY_COMPARE_WITH_TIMEOUT(ServiceClient::readLine(), line, 10'000);
-    QTest::qWait(1000); // any answers of the start that may still change
+    QTest::qWait(Lines::appliedAfterMs);
     QCOMPARE(ServiceClient::readLine(), line);
 }
 
 void TestResume::timeline()
 {
-    startWithColours("backlight_on=true\n");
+    startWithColours(Lines::threeZonesSettings);
     for (int resume = 1; resume <= 2; ++resume) { // the later one is a new one
         sleep->resume(SleepNotices::Delivery::Told);
         QTRY_COMPARE(pings(), resume);
@@ -76,15 +71,15 @@ void TestResume::timeline()
         sincePing.start();
 
         // Whoever asks meanwhile waits for the settling, and finds the keyboard to be woken.
-        QCOMPARE(ServiceClient::lineOf(ServiceClient::readAnswer(15'000)), wakeLine);
+        QCOMPARE(ServiceClient::lineOf(ServiceClient::readAnswer(15'000)), Lines::wake);
         const qint64 settled = sincePing.elapsed();
         QVERIFY2(settled > settlingMs - 500, qPrintable(QString::number(settled)));
         QVERIFY2(settled < settlingMs + lateness, qPrintable(QString::number(settled)));
-        QCOMPARE(ServiceClient::readLine(), wakeLine);
+        QCOMPARE(ServiceClient::readLine(), Lines::wake);
         QCOMPARE(ServiceClient::readLine(), blackLine);
         QVERIFY(sincePing.elapsed() < settled + 500); // nothing settled a second time
 
-        QTRY_COMPARE_WITH_TIMEOUT(ServiceClient::readLine(), colouredLine, 6000);
+        QTRY_COMPARE_WITH_TIMEOUT(ServiceClient::readLine(), Lines::threeZones, 6000);
         const qint64 restored = sincePing.elapsed();
         QVERIFY2(restored > settlingMs + reloadMs - 500, qPrintable(QString::number(restored)));
         QVERIFY2(restored < settlingMs + reloadMs + lateness,
@@ -103,7 +98,7 @@ void TestResume::oneResumeSettlesOnce_data()
 void TestResume::oneResumeSettlesOnce()
 {
     QFETCH(SleepNotices::Delivery, delivery);
-    startWithColours("backlight_on=true\n");
+    startWithColours(Lines::threeZonesSettings);
     sleep->resume(delivery);
     QTRY_COMPARE(pings(), 1);
     ServiceClient::readAnswer(15'000);
@@ -119,20 +114,20 @@ void TestResume::oneResumeSettlesOnce()
     }
     QVERIFY2(longestAnswer < lateness, qPrintable(QString::number(longestAnswer)));
     QCOMPARE(pings(), 1);
-    QCOMPARE(ServiceClient::readLine(), colouredLine);
+    QCOMPARE(ServiceClient::readLine(), Lines::threeZones);
 }
 
 void TestResume::hiddenAndOff()
 {
-    startWithColours("start_hidden=1\nbacklight_on=false\n");
+    startWithColours("start_hidden=1\nbacklight_on=false\nbrightlevel=100\n", Lines::off);
     sleep->resume(SleepNotices::Delivery::Told);
     QTRY_COMPARE(pings(), 1);
     QElapsedTimer sincePing;
     sincePing.start();
-    QCOMPARE(ServiceClient::lineOf(ServiceClient::readAnswer(15'000)), offLine);
+    QCOMPARE(ServiceClient::lineOf(ServiceClient::readAnswer(15'000)), Lines::off);
     QVERIFY(sincePing.elapsed() > settlingMs - 500);
     while (sincePing.elapsed() < settlingMs + reloadMs + lateness) {
-        QCOMPARE(ServiceClient::readLine(), offLine); // no wake line
+        QCOMPARE(ServiceClient::readLine(), Lines::off); // no wake line
         QTest::qWait(50);
     }
     QCOMPARE(pings(), 1);
@@ -140,12 +135,12 @@ void TestResume::hiddenAndOff()
 
 void TestResume::otherNotices()
 {
-    startWithColours("backlight_on=true\n");
+    startWithColours(Lines::threeZonesSettings);
     sleep->suspend();
     QElapsedTimer sinceNotice;
     sinceNotice.start();
     while (sinceNotice.elapsed() < 2000) {
-        QCOMPARE(ServiceClient::readLine(), colouredLine);
+        QCOMPARE(ServiceClient::readLine(), Lines::threeZones);
         QTest::qWait(50);
     }
     QCOMPARE(pings(), 0);
