@@ -203,6 +203,8 @@ void TestSingleInstance::secondStart()
         twin.construct();
         ProgramWindow::click(ProgramWindow::onScreen(*twin.window, "minimizeButton"));
     }
+    // Until the start is over: a window that is shown, hidden and shown at once may stay hidden.
+    QVERIFY(eventually([&] { return ServiceClient::readLine() == Lines::off; }));
     QVERIFY(eventually([&] { return shownWindows() == 0; }));
 
     FurtherStart second(*first);
@@ -257,6 +259,7 @@ void TestSingleInstance::twentyBesideOne()
 {
     ProgramProcess::writeSettings("start_hidden=1\n");
     QVERIFY(first->startAndServe());
+    QVERIFY(eventually([&] { return ServiceClient::readLine() == Lines::off; }));
     const Starts starts = startTwenty(*first);
     for (const auto &start : starts) {
         QVERIFY(start->leaves());
