@@ -311,9 +311,10 @@ void TestSingleInstance::anotherFolder()
     FurtherStart beside(*first, copyProgram(elsewhere));
     QVERIFY(QTest::qWaitFor([&] { return beside.logs("Could not start the Service Server"); },
                             leavesWithinMs));
-    QVERIFY(eventually([&] { return shownWindows() == 2; }));
+    const bool bothShown = eventually([&] { return shownWindows() == 2; });
     QVERIFY(beside.runs());
     QCOMPARE(first->process.state(), QProcess::Running);
+    QVERIFY2(bothShown, qPrintable(QString::number(shownWindows())));
 }
 
 std::unique_ptr<QLocalSocket> TestSingleInstance::stranger()
