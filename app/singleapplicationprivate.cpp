@@ -16,7 +16,7 @@
 namespace {
 
 constexpr int firstWordsTimeoutMs = 100;
-constexpr qint64 longestMessage = 64 * 1024;
+constexpr qint64 longestMessage = 65'536;
 /// How long a start waits for others that start or end. They take milliseconds.
 constexpr int startLockTimeoutMs = 5000;
 constexpr auto blockLockTimeout = std::chrono::seconds(1);

@@ -238,7 +238,7 @@ void TestSingleInstance::twentyAtOnce()
     int mostWindows = 0;
     QElapsedTimer waiting;
     waiting.start();
-    while (running(starts) > 1 && waiting.elapsed() < 3 * leavesWithinMs) {
+    while (running(starts) > 1 && waiting.elapsed() < qint64{3} * leavesWithinMs) {
         mostWindows = qMax(mostWindows, shownWindows());
         QTest::qWait(20);
     }

@@ -14,7 +14,7 @@ using namespace GuardTest;
 
 namespace {
 
-constexpr qint64 bound = 64 * 1024;
+constexpr qint64 bound = 65'536;
 
 } // namespace
 

@@ -77,7 +77,7 @@ public:
     // What the system is like
     std::optional<QString> autostart;
     std::optional<QString> user = QStringLiteral("somebody");
-    KeyPresses presses; ///< seen by one poll
+    KeyPresses presses;                ///< seen by one poll
     std::function<void()> whileAsleep; ///< happens during each sleep
     bool elevated = false;
     std::optional<quint32> elevationError;
