@@ -29,6 +29,8 @@ MainWindow::MainWindow(AppSettings appSettings, Platform &system, PrimaryRole &r
 {
     ui->setupUi(this);
     colourProcessor = std::make_unique<ColorProcessor>(ui->hSelector, ui->svSelector);
+    pickerController = std::make_unique<MainController>(ui->hSelector, ui->svSelector,
+                                                        colourProcessor.get(), this);
 
     if (companionMemory.isAttached()) {
         companionMemory.detach();

@@ -2,6 +2,7 @@
 
 #include "app/appsettings.h"
 #include "colorpicker/colorprocessor.h"
+#include "colorpicker/maincontroller.h"
 #include "lighting/commandline.h"
 #include "lighting/lightingstate.h"
 #include "lighting/myeventfilter.h"
@@ -21,6 +22,7 @@ class Platform;
 class PrimaryRole;
 class QMenu;
 class QTcpServer;
+struct DpiBand;
 
 namespace Ui {
 class MainWindow;
@@ -32,7 +34,7 @@ using Clock = std::function<qint64()>;
 /// The one window. It owns the lighting state, the settings, the Service Server, the tray icon and
 /// the timers; its slots read widgets, ask a core and show the answer. Every slot keeps its name:
 /// many are found by it.
-class MainWindow : public QMainWindow
+class MainWindow : public QMainWindow, public RgbFieldOwner
 {
     Q_OBJECT
 
@@ -97,7 +99,7 @@ public slots:
     void on_pushButton_clicked();
     void on_pushButton_2_clicked();
     void on_comboBox_BasicColors_currentIndexChanged(int index);
-    void updateColorRGB(const QString &RGB);
+    void updateColorRGB(const QString &RGB) override;
     void updateColorHex(const QString &Hex);
     void updateColorText(const QColor &color);
     void selectField(QWidget *w);
@@ -114,6 +116,8 @@ public slots:
     void on_closeButton_clicked();
     void on_minimizeButton_clicked();
     void SetStyle();
+
+    // mainwindow_dpi.cpp
     void DPIfixes();
 
     // mainwindow_system.cpp: updates, autostart, uninstaller, per-key application
@@ -145,10 +149,13 @@ private:
     void showBrightness(const char *suffix);
 
     void startServiceServer();
+    QString rgbText() const override;
+    void setRgbText(const QString &text) override;
     void connectColourPicker();
     void openPicker(int target);
     void closePicker();
     void keepExact(const QColor &colour);
+    void enlargeForBand(const DpiBand &band);
     void updateIdleTime();
     QByteArray companionSegmentContents();
     void startPerKeyApplication();
@@ -183,6 +190,7 @@ private:
     /// What the open picker edits: a kind of SetZoneColor().
     qint32 pickTarget = 0;
     std::unique_ptr<ColorProcessor> colourProcessor;
+    std::unique_ptr<MainController> pickerController;
 
     QSharedMemory companionMemory;
     /// The number that the companion published last; no brightness is the first one.

@@ -44,6 +44,16 @@ void MainWindow::connectColourPicker()
     connect(this, SIGNAL(mouseReleasedOnWindow()), ui->colorSample, SLOT(mouseReleasedOnWindow()));
 }
 
+QString MainWindow::rgbText() const
+{
+    return ui->leRGB->text();
+}
+
+void MainWindow::setRgbText(const QString &text)
+{
+    ui->leRGB->setText(text);
+}
+
 void MainWindow::openPicker(int target)
 {
     const std::array<const QString *, 5> colours{

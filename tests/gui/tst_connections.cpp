@@ -1,7 +1,15 @@
 #include "formtables.h"
 
+#include "colorpicker/colorsample.h"
+#include "colorpicker/hselector.h"
 #include "tests/support/testwindow.h"
 
+#include <QAbstractButton>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QStatusBar>
 #include <QTest>
 
 namespace {
@@ -32,14 +40,14 @@ constexpr std::array pickerConnections{
 int takeConnections(const QObject *sender, const char *signal, const QObject *receiver,
                     const char *slot)
 {
-    const QByteArray signalCode = QByteArray::number(QSIGNAL_CODE) + signal;
-    const QByteArray slotCode = QByteArray::number(QSLOT_CODE) + slot;
-    if (sender->metaObject()->indexOfSignal(signal) < 0
-        || receiver->metaObject()->indexOfMethod(slot) < 0) {
+    const int signalIndex = sender->metaObject()->indexOfSignal(signal);
+    const int slotIndex = receiver->metaObject()->indexOfMethod(slot);
+    if (signalIndex < 0 || slotIndex < 0) {
         return -1;
     }
     int count = 0;
-    while (QObject::disconnect(sender, signalCode.constData(), receiver, slotCode.constData())) {
+    // One by one: QObject::disconnect() would take a doubled joint for a single one.
+    while (QMetaObject::disconnectOne(sender, signalIndex, receiver, slotIndex)) {
         ++count;
     }
     return count;
@@ -56,6 +64,11 @@ private slots:
     void formControls();
     void picker_data();
     void picker();
+    void nothingElseIsJoined();
+    void hueReachesTheFieldsOnce();
+    void typingReachesTheSelectorsOnce();
+    void buttonsAndSampleCopyOnce();
+    void windowDragReachesTheSample();
 };
 
 void TestConnections::formControls_data()
@@ -103,6 +116,108 @@ void TestConnections::picker()
         return world.get<QWidget>(name);
     };
     QCOMPARE(takeConnections(object(row.sender), row.signal, object(row.receiver), row.slot), 1);
+}
+
+void TestConnections::nothingElseIsJoined()
+{
+    TestWindow world;
+    world.construct();
+    const std::initializer_list<std::pair<const char *, const char *>> unjoined{
+        {"colorSample", SIGNAL(samplePressedMiddle())},
+        {"svSelector", SIGNAL(saturationChanged(QColor))},
+        {"svSelector", SIGNAL(valueChanged(QColor))},
+        {"svSelector", SIGNAL(middlePressedSignal(QMouseEvent *))},
+        {"hSelector", SIGNAL(middlePressedSignal(QMouseEvent *))},
+        {"colorSample", SIGNAL(middlePressedSignal(QMouseEvent *))},
+    };
+    for (const auto &[sender, signal] : unjoined) {
+        QVERIFY2(!world.get<QWidget>(sender)->disconnect(signal), signal);
+    }
+}
+
+void TestConnections::hueReachesTheFieldsOnce()
+{
+    TestWindow world;
+    world.construct();
+    const QSignalSpy square(world.get<QWidget>("svSelector"), SIGNAL(colorChanged(QColor)));
+    const QSignalSpy sample(world.get<QWidget>("colorSample"), SIGNAL(colorChanged(QColor)));
+    const QSignalSpy rgb(world.get<QWidget>("leRGB"), SIGNAL(textChanged(QString)));
+    const QSignalSpy hex(world.get<QWidget>("leHex"), SIGNAL(textChanged(QString)));
+    const QSignalSpy edited(world.get<QWidget>("leRGB"), SIGNAL(textEdited(QString)));
+    emit world.get<HSelector>("hSelector")->hueChanged(QColor(0, 255, 0));
+    QCOMPARE(square.size(), 1);
+    QCOMPARE(sample.size(), 1);
+    QCOMPARE(rgb.size(), 1);
+    QCOMPARE(hex.size(), 1);
+    QCOMPARE(edited.size(), 0); // the chain ends at the fields
+    QCOMPARE(world.get<QLineEdit>("leRGB")->text(), QStringLiteral("0 255 0"));
+    QCOMPARE(world.get<QLineEdit>("leHex")->text(), QStringLiteral("00ff00"));
+}
+
+void TestConnections::typingReachesTheSelectorsOnce()
+{
+    TestWindow world;
+    world.construct();
+    const QSignalSpy strip(world.get<QWidget>("hSelector"), SIGNAL(hueChanged(QColor)));
+    const QSignalSpy placed(world.get<QWidget>("svSelector"), SIGNAL(saturationChanged(QColor)));
+    emit world.get<QLineEdit>("leRGB")->textEdited(QStringLiteral("0 0 255"));
+    QCOMPARE(strip.size(), 1);
+    QCOMPARE(placed.size(), 1);
+    QCOMPARE(world.get<QLineEdit>("leHex")->text(), QStringLiteral("0000ff"));
+    emit world.get<QLineEdit>("leHex")->textEdited(QStringLiteral("00ff00"));
+    QCOMPARE(strip.size(), 2);
+    QCOMPARE(placed.size(), 2);
+    QCOMPARE(world.get<QLineEdit>("leRGB")->text(), QStringLiteral("0 255 0"));
+}
+
+void TestConnections::buttonsAndSampleCopyOnce()
+{
+    TestWindow world;
+    world.construct();
+    const QSignalSpy messages(world.get<QStatusBar>("statusBar"), SIGNAL(messageChanged(QString)));
+    const auto told = [&messages] {
+        return messages.isEmpty() ? QString() : messages.last().first().toString();
+    };
+    auto *const hex = world.get<QLineEdit>("leHex");
+    hex->setText(QStringLiteral("0080ff"));
+    QClipboard &clipboard = *QGuiApplication::clipboard();
+
+    world.get<QAbstractButton>("bHex")->click();
+    QCOMPARE(messages.size(), 1);
+    QCOMPARE(told(), QStringLiteral("Hex copied"));
+    QCOMPARE(clipboard.text(), QStringLiteral("0080ff"));
+    QVERIFY(world.get<QAbstractButton>("bPasteHex")->isEnabled());
+
+    clipboard.setText(QStringLiteral("#0A0"));
+    world.get<QAbstractButton>("bPasteHex")->click();
+    QCOMPARE(messages.size(), 2);
+    QCOMPARE(told(), QStringLiteral("Hex value pasted"));
+    QCOMPARE(hex->text(), QStringLiteral("00aa00"));
+
+    emit world.get<ColorSample>("colorSample")->samplePressedLeft();
+    QCOMPARE(messages.size(), 3);
+    QCOMPARE(told(), QStringLiteral("Hex copied"));
+    QCOMPARE(clipboard.text(), QStringLiteral("00aa00"));
+
+    emit world.get<ColorSample>("colorSample")->samplePressedRight();
+    QCOMPARE(messages.size(), 4);
+    QCOMPARE(told(), QStringLiteral("Hex # copied"));
+    QCOMPARE(clipboard.text(), QStringLiteral("#00aa00"));
+}
+
+void TestConnections::windowDragReachesTheSample()
+{
+    TestWindow world;
+    MainWindow &window = world.construct();
+    auto *const sample = world.get<ColorSample>("colorSample");
+    const QSignalSpy clicks(sample, SIGNAL(samplePressedLeft()));
+    emit window.mouseMovedOnWindow();
+    QTest::mouseRelease(sample, Qt::LeftButton);
+    QCOMPARE(clicks.size(), 0);
+    emit window.mouseMovedOnWindow();
+    emit window.mouseReleasedOnWindow();
+    QTest::mouseRelease(sample, Qt::LeftButton);
+    QCOMPARE(clicks.size(), 1);
 }
 
 QTEST_MAIN(TestConnections)
