@@ -1,10 +1,7 @@
 // Slots that the form, the timers and the order of start-up already call at their place, and whose
-// work is still to be built: display scaling, updates, the uninstaller and the switch to the
-// per-key application.
+// work is still to be built: updates, the uninstaller and the switch to the per-key application.
 
 #include "ui/mainwindow.h"
-
-void MainWindow::DPIfixes() {}
 
 void MainWindow::SetAppVersion() {}
 

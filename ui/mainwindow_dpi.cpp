@@ -1,0 +1,99 @@
+#include "ui/mainwindow.h"
+
+#include "ui_mainwindow.h"
+
+#include "ui/dpibands.h"
+
+#include <QApplication>
+#include <QDesktopWidget>
+#include <QLayout>
+
+namespace {
+
+using Widgets = std::initializer_list<QWidget *>;
+using Spacers = std::initializer_list<QSpacerItem *>;
+
+void setMinimums(const Widgets &widgets, const QSize &size)
+{
+    for (QWidget *const widget : widgets) {
+        widget->setMinimumWidth(size.width());
+        widget->setMinimumHeight(size.height());
+    }
+}
+
+void setMinimumHeights(const Widgets &widgets, int height)
+{
+    for (QWidget *const widget : widgets) {
+        widget->setMinimumHeight(height);
+    }
+}
+
+void setHeights(const Spacers &spacers, int height)
+{
+    for (QSpacerItem *const spacer : spacers) {
+        spacer->changeSize(1, height, QSizePolicy::Minimum, QSizePolicy::Minimum);
+    }
+}
+
+void fixSize(QWidget &button, int edge)
+{
+    button.setMinimumWidth(edge);
+    button.setMinimumHeight(edge);
+    button.setMaximumWidth(edge);
+    button.setMaximumHeight(edge);
+    button.resize(edge, edge);
+}
+
+} // namespace
+
+void MainWindow::DPIfixes()
+{
+    const DpiBand &band = dpiBand(QApplication::desktop()->logicalDpiX());
+    if (band.controlSize != 0) {
+        fixSize(*ui->minimizeButton, band.controlSize);
+        fixSize(*ui->closeButton, band.controlSize);
+        setMinimumHeights({ui->pushButton_3, ui->Button_CheckforUpdate, ui->Button_Update,
+                           ui->Combo_Effect, ui->comboDimValue},
+                          band.controlSize);
+    }
+    if (band.changesEverything()) {
+        enlargeForBand(band);
+    }
+    if (band.windowMinimum.isValid()) {
+        setMinimums({this}, band.windowMinimum);
+    }
+}
+
+void MainWindow::enlargeForBand(const DpiBand &band)
+{
+    setMinimumHeights({ui->comboBox_BasicColors, ui->leRGB, ui->leHex, ui->bHex, ui->bPasteHex,
+                       ui->pushButton_2, ui->pushButton},
+                      band.controlSize);
+    setMinimums({ui->keyboard_full, ui->stripe_led_2}, band.fullPicture);
+    setMinimums({ui->stripe_led}, band.stripePicture);
+    setMinimums({ui->keyboard_left, ui->keyboard_center, ui->keyboard_right}, band.zonePicture);
+    if (band.colourButton != 0) {
+        setMinimums({ui->colorpick1, ui->colorpick2, ui->colorpick3, ui->colorpick4, ui->colorpick5,
+                     ui->colorpick5_3},
+                    {band.colourButton, band.colourButton});
+    }
+    ui->frame_2->setMinimumHeight(band.barHeight);
+    ui->frame_2->setMaximumHeight(band.barHeight);
+    ui->frame->setMinimumHeight(band.frameHeight);
+
+    setHeights({ui->verticalSpacer_1, ui->verticalSpacer_2, ui->verticalSpacer_3,
+                ui->verticalSpacer_4, ui->verticalSpacer_5, ui->verticalSpacer_6,
+                ui->verticalSpacer_7, ui->verticalSpacer_8, ui->verticalSpacer_9,
+                ui->verticalSpacer_10, ui->verticalSpacer_11, ui->verticalSpacer_12,
+                ui->verticalSpacer_13},
+               band.pageSpacer);
+    setHeights({ui->verticalSpacer_17, ui->verticalSpacer_18, ui->verticalSpacer_19,
+                ui->verticalSpacer_20, ui->verticalSpacer_21},
+               band.settingsSpacer);
+    // A changed spacer does not tell its layout.
+    for (QLayout *const layout : std::initializer_list<QLayout *>{
+             ui->gridLayout_13, ui->gridLayout_3, ui->gridLayout_6, ui->gridLayout_12,
+             ui->gridLayout_14, ui->gridLayout_11, ui->gridLayout_7, ui->gridLayout_8}) {
+        layout->invalidate();
+    }
+}
