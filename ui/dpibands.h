@@ -12,7 +12,7 @@ struct DpiBand
     int highestDpi; ///< inclusive
     QSize windowMinimum = {};
     int controlSize = 0; ///< edge of the title buttons, least height of buttons, lists and fields
-    QSize fullPicture = {};   ///< least sizes of the preview pictures
+    QSize fullPicture = {}; ///< least sizes of the preview pictures
     QSize stripePicture = {};
     QSize zonePicture = {};
     int colourButton = 0; ///< least edge; deliberately above the form's greatest
@@ -37,8 +37,8 @@ constexpr std::array dpiBands{
     DpiBand{216, {920, 1010}, 48, {360, 145}, {370, 155}, {205, 155}, 50, 75, 150, 30, 0},
     DpiBand{240, {980, 1050}, 48, {420, 155}, {380, 155}, {225, 155}, 50, 75, 160, 30, 0},
     DpiBand{287, {}}, // a gap, kept on purpose: the form keeps its sizes
-    DpiBand{335, {1200, 1250}, 52, {440, 165}, {400, 165}, {245, 165}, 60, 75, 180, 45, 20},
-    DpiBand{anyDpi, {1200, 1250}, 56, {440, 165}, {400, 165}, {245, 165}, 60, 75, 180, 55, 20},
+    DpiBand{335, {1200, 1250}, 52, {440, 165}, {400, 165}, {245, 165}, 60, 75, 180, 45, 10},
+    DpiBand{anyDpi, {1200, 1250}, 56, {440, 165}, {400, 165}, {245, 165}, 60, 75, 180, 45, 10},
 };
 
 /// The band of a desktop's logical DPI.

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QDesktopWidget>
 #include <QLayout>
+#include <QScreen>
 
 namespace {
 
@@ -62,6 +63,11 @@ void MainWindow::DPIfixes()
     if (band.windowMinimum.isValid()) {
         setMinimums({this}, band.windowMinimum);
     }
+    if (band.changesEverything()) {
+        // The desktop's own font may be wider than the minimum allows for.
+        const QSize available = screen()->availableSize();
+        resize(minimumSizeHint().boundedTo(available).expandedTo(size()));
+    }
 }
 
 void MainWindow::enlargeForBand(const DpiBand &band)
@@ -94,6 +100,6 @@ void MainWindow::enlargeForBand(const DpiBand &band)
     for (QLayout *const layout : std::initializer_list<QLayout *>{
              ui->gridLayout_13, ui->gridLayout_3, ui->gridLayout_6, ui->gridLayout_12,
              ui->gridLayout_14, ui->gridLayout_11, ui->gridLayout_7, ui->gridLayout_8}) {
-        layout->invalidate();
+        layout->update();
     }
 }

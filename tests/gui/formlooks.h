@@ -144,6 +144,8 @@ inline constexpr std::array sheets{
     Sheet{"label_17", greyText},
     Sheet{"colorpickframe", "background-color: #2a2a2a;"},
     Sheet{"label_8", greyText},
+    // Ground for the arrow, which would vanish on the panel.
+    Sheet{"pColorPicker", "#pColorPicker { background-color: #848484; border-radius: 3px; }"},
     Sheet{"svSelector", "border:1px solid;"},
     Sheet{"label_5", greyText},
     Sheet{"colorSample", "border:1px solid;"},
