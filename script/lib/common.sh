@@ -9,6 +9,7 @@ export LC_ALL=C.UTF-8
 
 build_packages=(cmake ninja-build g++ pkg-config qtbase5-dev libxcb-xinput-dev)
 display_packages=(xvfb openbox x11-utils fonts-dejavu-core imagemagick)
+screen_reader_packages=(dbus at-spi2-core gir1.2-atspi-2.0 python3-gi)
 
 # Progress goes to standard error, so that a script's result stays alone on standard output.
 step() {
@@ -82,11 +83,11 @@ make_scratch() {
     scratch=$(mktemp -d "${TMPDIR:-/tmp}/lumikey.XXXXXX")
 }
 
-# start_display: a virtual display of 96 DPI with a window manager; sets DISPLAY.
+# start_display [WIDTHxHEIGHT]: a virtual display of 96 DPI with a window manager; sets DISPLAY.
 start_display() {
     local number_file=$scratch/display
     step "Starting a virtual display"
-    Xvfb -displayfd 3 -screen 0 1280x1024x24 -dpi 96 -nolisten tcp \
+    Xvfb -displayfd 3 -screen 0 "${1:-1600x1280}x24" -dpi 96 -nolisten tcp \
         3>"$number_file" 2>"$scratch/xvfb.log" &
     children+=($!)
     for _ in $(seq 100); do
