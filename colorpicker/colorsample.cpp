@@ -1,5 +1,6 @@
 #include "colorpicker/colorsample.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -20,6 +21,7 @@ void ColorSample::changeColor(const QColor &color)
 {
     currentColor = color;
     update();
+    announceChange();
     emit colorChanged(color);
 }
 
@@ -65,6 +67,25 @@ void ColorSample::mouseReleaseEvent(QMouseEvent *event)
     event->ignore();
 }
 
+void ColorSample::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        showFocus();
+        press();
+        break;
+    default:
+        ColorWidget::keyPressEvent(event);
+    }
+}
+
+void ColorSample::press()
+{
+    emit samplePressedLeft();
+}
+
 void ColorSample::paintEvent(QPaintEvent *)
 {
     using namespace PickerGeometry;
@@ -73,5 +94,5 @@ void ColorSample::paintEvent(QPaintEvent *)
     painter.setPen(Qt::NoPen);
     painter.setBrush(currentColor);
     painter.drawRect(margin, margin, width() - 2 * margin, height() - 2 * margin);
-    drawFrame(painter, rect(), frameWidth, cornerRadius, frameColor);
+    drawFrame(painter, rect(), frameWidth, cornerRadius, shownFrameColor());
 }

@@ -11,6 +11,9 @@ class ColorSample : public ColorWidget
 public:
     explicit ColorSample(QWidget *parent = nullptr);
 
+    /// Acts as a click with the left button does.
+    void press();
+
 signals:
     void colorChanged(QColor color);
     void samplePressedLeft();
@@ -29,6 +32,7 @@ protected:
     void enterEvent(QEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -1,5 +1,8 @@
 #include "colorpicker/colorwidget.h"
 
+#include "colorpicker/pickeraccessible.h"
+#include "colorpicker/pickerpalette.h"
+
 #include <QKeyEvent>
 #include <QMetaMethod>
 #include <QPainter>
@@ -9,6 +12,8 @@ ColorWidget::ColorWidget(QWidget *parent)
     : QWidget(parent)
     , currentColor(hsv(currentHue, currentSaturation, currentValue))
 {
+    PickerAccessible::install();
+    setFocusPolicy(Qt::StrongFocus);
     connect(this, SIGNAL(shiftPressed()), this, SLOT(pressShift()));
     connect(this, SIGNAL(shiftReleased()), this, SLOT(releaseShift()));
     connect(this, SIGNAL(ctrlPressed()), this, SLOT(pressCtrl()));
@@ -35,8 +40,18 @@ void ColorWidget::keyReleaseEvent(QKeyEvent *event)
     QWidget::keyReleaseEvent(event);
 }
 
+void ColorWidget::focusInEvent(QFocusEvent *event)
+{
+    // A click or the window's return says nothing of the keyboard.
+    if (event->reason() != Qt::MouseFocusReason && event->reason() != Qt::ActiveWindowFocusReason) {
+        showFocus();
+    }
+    QWidget::focusInEvent(event);
+}
+
 void ColorWidget::focusOutEvent(QFocusEvent *event)
 {
+    focusShown = false;
     // The releases of keys still held go to another widget.
     if (shiftHeld) {
         emit shiftReleased();
@@ -45,6 +60,22 @@ void ColorWidget::focusOutEvent(QFocusEvent *event)
         emit ctrlReleased();
     }
     QWidget::focusOutEvent(event);
+}
+
+void ColorWidget::showFocus()
+{
+    focusShown = true;
+    update();
+}
+
+QColor ColorWidget::shownFrameColor() const
+{
+    return focusShown ? PickerPalette::focus : frameColor;
+}
+
+void ColorWidget::announceChange()
+{
+    PickerAccessible::announceChange(*this);
 }
 
 QColor ColorWidget::hsv(int degrees, int saturation, int value)
@@ -94,9 +125,9 @@ void ColorWidget::takeRelease(QMouseEvent *event)
 
 // The keyboard focus is usually in a text field, so the keys' own events do not come here; the
 // wheel's event tells which modifiers are down.
-int ColorWidget::wheelStep(const QWheelEvent *event) const
+int ColorWidget::stepSize(Qt::KeyboardModifiers modifiers) const
 {
-    const bool fast = shiftHeld || event->modifiers().testFlag(Qt::ShiftModifier);
+    const bool fast = shiftHeld || modifiers.testFlag(Qt::ShiftModifier);
     return fast ? PickerGeometry::fastWheelStep : PickerGeometry::slowWheelStep;
 }
 

@@ -10,7 +10,7 @@
 class QPainter;
 
 /// Common ground of the hue strip, the saturation/value square and the sample: geometry, palette,
-/// the colour being edited and the state of the modifier keys.
+/// the colour being edited, the state of the modifier keys and the keyboard's focus.
 class ColorWidget : public QWidget
 {
     Q_OBJECT
@@ -47,6 +47,7 @@ public slots:
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
 
     /// HSV colour with alpha 255. @param degrees 0..360 (360 is red again) or -1 for grey.
@@ -62,12 +63,20 @@ protected:
     /// Ends a middle press and ignores the event.
     void takeRelease(QMouseEvent *event);
 
-    /// Marker step of one wheel notch: 10 with shift held, else 1.
-    int wheelStep(const QWheelEvent *event) const;
+    /// Marker step of one wheel notch or arrow key: 10 with shift held, else 1.
+    int stepSize(Qt::KeyboardModifiers modifiers) const;
     /// Whether the wheel moves sideways.
     bool wheelIsHorizontal(const QWheelEvent *event) const;
 
+    /// The frame as it is to be drawn: brighter while the keyboard's focus is to be seen.
+    QColor shownFrameColor() const;
+    /// The keys act here, so the focus is to be seen from now on.
+    void showFocus();
+    /// Tells screen readers that what this widget stands for has changed.
+    void announceChange();
+
     QColor frameColor{80, 80, 80, 200};
+    bool focusShown = false;
     bool middlePressed = false;
     bool cacheValid = false;
     bool ctrlHeld = false;

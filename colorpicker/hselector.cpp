@@ -2,6 +2,7 @@
 
 #include "colorpicker/pickerpalette.h"
 
+#include <QKeyEvent>
 #include <QLinearGradient>
 #include <QMouseEvent>
 #include <QPainter>
@@ -26,6 +27,7 @@ void HSelector::setHue(int degrees)
     currentHue = color.hue();
     currentColor = color;
     emit hueChanged(color);
+    announceChange();
     update();
 }
 
@@ -55,14 +57,38 @@ void HSelector::mouseReleaseEvent(QMouseEvent *event)
 void HSelector::wheelEvent(QWheelEvent *event)
 {
     const int delta = event->angleDelta().y();
-    marker.setY(markerOfHue(currentHue)); // as drawn, also when nothing was drawn since the change
-    if (delta > 0) {
-        marker.ry() -= wheelStep(event);
-    } else if (delta < 0) {
-        marker.ry() += wheelStep(event);
-    }
-    recompute();
+    const int step = stepSize(event->modifiers());
+    moveMarker(delta > 0 ? -step : delta < 0 ? step : 0);
     event->accept();
+}
+
+void HSelector::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Up:
+        showFocus();
+        moveMarker(-stepSize(event->modifiers()));
+        break;
+    case Qt::Key_Down:
+        showFocus();
+        moveMarker(stepSize(event->modifiers()));
+        break;
+    default:
+        ColorWidget::keyPressEvent(event);
+    }
+}
+
+void HSelector::moveMarker(int pixels)
+{
+    marker.setY(markerOfHue(currentHue)); // as drawn, also when nothing was drawn since the change
+    marker.ry() += pixels;
+    recompute();
+}
+
+void HSelector::chooseHue(int degrees)
+{
+    marker.setY(markerOfHue(degrees));
+    recompute();
 }
 
 void HSelector::recompute()
@@ -70,6 +96,7 @@ void HSelector::recompute()
     currentHue = hueAt(marker.y());
     currentColor = hsv(currentHue, currentSaturation, currentValue);
     emit hueChanged(currentColor);
+    announceChange();
     update();
 }
 
@@ -115,5 +142,5 @@ void HSelector::paintEvent(QPaintEvent *)
     painter.drawPolygon(arrow);
 
     drawFrame(painter, QRect(pixmapOrigin, QSize(stripWidth, stripHeight)), frameWidth,
-              cornerRadius, frameColor);
+              cornerRadius, shownFrameColor());
 }

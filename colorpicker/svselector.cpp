@@ -3,6 +3,7 @@
 #include "colorpicker/pickerpalette.h"
 #include "colorpicker/svpicture.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
@@ -30,6 +31,7 @@ void SVSelector::changeHue(const QColor &color)
     placeMarker();
     currentColor = hsv(currentHue, currentSaturation, currentValue);
     update();
+    announceChange();
     emit colorChanged(currentColor);
 }
 
@@ -56,14 +58,40 @@ void SVSelector::mouseReleaseEvent(QMouseEvent *event)
 void SVSelector::wheelEvent(QWheelEvent *event)
 {
     const int delta = event->angleDelta().y();
-    const int step = delta > 0 ? wheelStep(event) : delta < 0 ? -wheelStep(event) : 0;
-    if (wheelIsHorizontal(event)) {
-        marker.rx() += step;
-    } else {
-        marker.ry() -= step;
-    }
-    recompute();
+    const int size = stepSize(event->modifiers());
+    const int step = delta > 0 ? size : delta < 0 ? -size : 0;
+    moveMarker(wheelIsHorizontal(event) ? QPoint(step, 0) : QPoint(0, -step));
     event->accept();
+}
+
+void SVSelector::keyPressEvent(QKeyEvent *event)
+{
+    QPoint way;
+    switch (event->key()) {
+    case Qt::Key_Left:
+        way.setX(-1);
+        break;
+    case Qt::Key_Right:
+        way.setX(1);
+        break;
+    case Qt::Key_Up:
+        way.setY(-1);
+        break;
+    case Qt::Key_Down:
+        way.setY(1);
+        break;
+    default:
+        ColorWidget::keyPressEvent(event);
+        return;
+    }
+    showFocus();
+    moveMarker(way * stepSize(event->modifiers()));
+}
+
+void SVSelector::moveMarker(const QPoint &pixels)
+{
+    marker += pixels;
+    recompute();
 }
 
 void SVSelector::followPointer(const QPoint &position)
@@ -85,6 +113,7 @@ void SVSelector::recompute()
     placeMarker(); // a pointer outside the square does not take the ring along
     currentColor = hsv(currentHue, currentSaturation, currentValue);
     update();
+    announceChange();
     emit colorChanged(currentColor);
     emit saturationChanged(currentColor);
     emit valueChanged(currentColor);
@@ -105,5 +134,5 @@ void SVSelector::paintEvent(QPaintEvent *)
     painter.drawEllipse(marker, ringRadius, ringRadius);
 
     drawFrame(painter, QRect(pixmapOrigin, QSize(squareSize, squareSize)), frameWidth, cornerRadius,
-              frameColor);
+              shownFrameColor());
 }

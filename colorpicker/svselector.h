@@ -29,10 +29,12 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
     void followPointer(const QPoint &position);
+    void moveMarker(const QPoint &pixels);
     void placeMarker();
     void recompute();
 };

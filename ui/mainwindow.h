@@ -154,6 +154,7 @@ private:
     void connectColourPicker();
     void openPicker(int target);
     void closePicker();
+    void leaveTextField(bool forward);
     void keepExact(const QColor &colour);
     void enlargeForBand(const DpiBand &band);
     void updateIdleTime();

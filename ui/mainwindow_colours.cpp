@@ -42,6 +42,19 @@ void MainWindow::connectColourPicker()
     connect(ui->colorSample, SIGNAL(samplePressedRight()), this, SLOT(copyHexHash()));
     connect(this, SIGNAL(mouseMovedOnWindow()), ui->colorSample, SLOT(mouseMovedOnWindow()));
     connect(this, SIGNAL(mouseReleasedOnWindow()), ui->colorSample, SLOT(mouseReleasedOnWindow()));
+
+    // The fields keep Tab for themselves, so these are the keyboard's ways out of them.
+    for (const ColorText *const field : {ui->leRGB, ui->leHex}) {
+        connect(field, &ColorText::focusNextField, this, [this] { leaveTextField(true); });
+        connect(field, &ColorText::focusPrevField, this, [this] { leaveTextField(false); });
+    }
+}
+
+void MainWindow::leaveTextField(bool forward)
+{
+    if (focusNextPrevChild(forward)) {
+        selectField(focusWidget());
+    }
 }
 
 QString MainWindow::rgbText() const
@@ -71,6 +84,7 @@ void MainWindow::openPicker(int target)
     ui->leRGB->clearFocus();
     ui->label_8->setText(QString::fromLatin1(prompts.at(index)));
     ui->comboBox_BasicColors->setCurrentIndex(basicColourIndex(ui->leRGB->text()));
+    ui->svSelector->setFocus(Qt::OtherFocusReason); // for those who came by the keyboard
 }
 
 void MainWindow::closePicker()
@@ -78,6 +92,12 @@ void MainWindow::closePicker()
     ui->colorpickframe->hide();
     ui->tabWidget_2->show();
     ui->tabWidget->show();
+    const std::array<QWidget *, 5> openers{ui->colorpick1, ui->colorpick2, ui->colorpick3,
+                                           ui->colorpick4, ui->colorpick5};
+    const auto index = static_cast<std::size_t>(pickTarget) - 1;
+    if (index < openers.size()) {
+        openers.at(index)->setFocus(Qt::OtherFocusReason);
+    }
 }
 
 void MainWindow::on_colorpick1_clicked()

@@ -1,0 +1,125 @@
+#include "colorpicker/pickeraccessible.h"
+
+#include "colorpicker/colorsample.h"
+#include "colorpicker/hselector.h"
+#include "colorpicker/svselector.h"
+
+#include <QAccessibleWidget>
+
+#include <algorithm>
+
+namespace {
+
+class HueAccessible final : public QAccessibleWidget, public QAccessibleValueInterface
+{
+public:
+    explicit HueAccessible(HSelector *selector)
+        : QAccessibleWidget(selector, QAccessible::Slider)
+        , strip(selector)
+    {}
+
+    void *interface_cast(QAccessible::InterfaceType type) override
+    {
+        if (type == QAccessible::ValueInterface) {
+            return static_cast<QAccessibleValueInterface *>(this);
+        }
+        return QAccessibleWidget::interface_cast(type);
+    }
+    /// A grey has no hue; its arrow stands at 0.
+    QVariant currentValue() const override { return std::max(strip->hue(), 0); }
+    void setCurrentValue(const QVariant &value) override { strip->chooseHue(value.toInt()); }
+    QVariant maximumValue() const override { return PickerGeometry::hueRange; }
+    QVariant minimumValue() const override { return 0; }
+    QVariant minimumStepSize() const override { return 1; }
+
+private:
+    HSelector *strip;
+};
+
+class SquareAccessible final : public QAccessibleWidget
+{
+public:
+    explicit SquareAccessible(SVSelector *selector)
+        : QAccessibleWidget(selector, QAccessible::ColorChooser)
+        , square(selector)
+    {}
+
+    QString text(QAccessible::Text kind) const override
+    {
+        if (kind == QAccessible::Description) {
+            return QStringLiteral("Saturation %1, value %2")
+                .arg(square->saturation())
+                .arg(square->value());
+        }
+        return QAccessibleWidget::text(kind);
+    }
+
+private:
+    SVSelector *square;
+};
+
+class SampleAccessible final : public QAccessibleWidget
+{
+public:
+    explicit SampleAccessible(ColorSample *swatch)
+        : QAccessibleWidget(swatch, QAccessible::Button)
+        , sample(swatch)
+    {}
+
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Description ? sample->color().name()
+                                                : QAccessibleWidget::text(kind);
+    }
+    QStringList actionNames() const override
+    {
+        return QStringList(pressAction()) + QAccessibleWidget::actionNames();
+    }
+    void doAction(const QString &name) override
+    {
+        if (name == pressAction()) {
+            sample->press();
+        } else {
+            QAccessibleWidget::doAction(name);
+        }
+    }
+
+private:
+    ColorSample *sample;
+};
+
+QAccessibleInterface *accessibleFor(const QString & /*className*/, QObject *object)
+{
+    if (auto *const strip = qobject_cast<HSelector *>(object)) {
+        return new HueAccessible(strip);
+    }
+    if (auto *const square = qobject_cast<SVSelector *>(object)) {
+        return new SquareAccessible(square);
+    }
+    if (auto *const sample = qobject_cast<ColorSample *>(object)) {
+        return new SampleAccessible(sample);
+    }
+    return nullptr;
+}
+
+} // namespace
+
+void PickerAccessible::install()
+{
+    static const bool installed = [] {
+        QAccessible::installFactory(accessibleFor);
+        return true;
+    }();
+    Q_UNUSED(installed)
+}
+
+void PickerAccessible::announceChange(ColorWidget &widget)
+{
+    if (qobject_cast<HSelector *>(&widget)) {
+        QAccessibleValueChangeEvent event(&widget, std::max(widget.hue(), 0));
+        QAccessible::updateAccessibility(&event);
+    } else {
+        QAccessibleEvent event(&widget, QAccessible::DescriptionChanged);
+        QAccessible::updateAccessibility(&event);
+    }
+}
