@@ -3,9 +3,12 @@
 #include "ui_mainwindow.h"
 
 #include "colorpicker/colorprocessor.h"
+#include "ui/toggleaccessible.h"
 
 #include <QCoreApplication>
 #include <QMenu>
+#include <QPushButton>
+#include <QRadioButton>
 
 #include <utility>
 
@@ -27,7 +30,14 @@ MainWindow::MainWindow(AppSettings appSettings, Platform &system, PrimaryRole &r
     , companionMemory(companionSegment)
     , eventFilterForResume(system)
 {
+    ToggleAccessible::install();
     ui->setupUi(this);
+    // The form's order of tabs is a circle that leaves the title buttons right behind the window
+    // itself, where the first Tab would meet them. By way of another place they come to its end.
+    for (QWidget *const button : {ui->closeButton, ui->minimizeButton}) {
+        setTabOrder(ui->backlight_on, button);
+        setTabOrder(ui->Button_Update, button);
+    }
     colourProcessor = std::make_unique<ColorProcessor>(ui->hSelector, ui->svSelector);
     pickerController = std::make_unique<MainController>(ui->hSelector, ui->svSelector,
                                                         colourProcessor.get(), this);

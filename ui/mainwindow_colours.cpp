@@ -3,6 +3,7 @@
 #include "ui_mainwindow.h"
 
 #include "colorpicker/basiccolours.h"
+#include "colorpicker/blanktyping.h"
 #include "colorpicker/services.h"
 
 #include <array>
@@ -43,6 +44,7 @@ void MainWindow::connectColourPicker()
     connect(this, SIGNAL(mouseMovedOnWindow()), ui->colorSample, SLOT(mouseMovedOnWindow()));
     connect(this, SIGNAL(mouseReleasedOnWindow()), ui->colorSample, SLOT(mouseReleasedOnWindow()));
 
+    new BlankTyping(ui->leRGB);
     // The fields keep Tab for themselves, so these are the keyboard's ways out of them.
     for (const ColorText *const field : {ui->leRGB, ui->leHex}) {
         connect(field, &ColorText::focusNextField, this, [this] { leaveTextField(true); });

@@ -1,4 +1,5 @@
 #include "colorpicker/basiccolours.h"
+#include "colorpicker/colorsample.h"
 #include "lighting/devicewords.h"
 #include "tests/support/testwindow.h"
 
@@ -27,6 +28,8 @@ private slots:
     void chosenPurpleIsNotRecognised();
     void enteredPurpleBecomesTheOther();
     void enteredTextIsNormalised();
+    void typedLetterByLetter_data();
+    void typedLetterByLetter();
     void hexIsEntered();
     void textThatIsNoColourIsStoredAsTyped();
     void copying();
@@ -45,8 +48,7 @@ private:
     {
         return world.get<QLineEdit>(field)->text();
     }
-    /// Puts a text in by the keyboard and the clipboard: a blank typed at the end of the RGB field
-    /// is trimmed before the next digit comes.
+    /// Puts a text in as a whole, by the keyboard and the clipboard.
     static void enter(const TestWindow &world, const char *field, const char *text)
     {
         auto *const edit = world.get<QLineEdit>(field);
@@ -195,6 +197,37 @@ void TestPicker::enteredTextIsNormalised()
     enter(world, "leRGB", "  255 ,  0   0 ");
     QCOMPARE(text(world, "leRGB"), QStringLiteral("255 0 0"));
     QCOMPARE(text(world, "leHex"), QStringLiteral("ff0000"));
+}
+
+void TestPicker::typedLetterByLetter_data()
+{
+    QTest::addColumn<QString>("keys");
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QColor>("colour");
+    const QColor before(1, 2, 3);
+    QTest::newRow("blanks") << "153 0 255"
+                            << "153 0 255" << QColor(153, 0, 255);
+    QTest::newRow("commas") << "0,128,255"
+                            << "0 128 255" << QColor(0, 128, 255);
+    QTest::newRow("too many blanks") << "  7   8  9 "
+                                     << "7 8 9" << QColor(7, 8, 9);
+    QTest::newRow("two numbers") << "7 8"
+                                 << "7 8" << before;
+    QTest::newRow("four numbers") << "7 8 9 1"
+                                  << "7 8 91" << QColor(7, 8, 91);
+}
+
+void TestPicker::typedLetterByLetter()
+{
+    QFETCH(QString, keys);
+    TestWindow world;
+    open(world, "colorpick1", "Zone1Color=1 2 3\n");
+    auto *const edit = world.get<QLineEdit>("leRGB");
+    edit->selectAll();
+    QTest::keyClick(edit, Qt::Key_Delete);
+    QTest::keyClicks(edit, keys);
+    QTEST(edit->text(), "field");
+    QTEST(world.get<ColorSample>("colorSample")->color(), "colour");
 }
 
 void TestPicker::hexIsEntered()

@@ -1,6 +1,7 @@
 #include "tests/support/testwindow.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QCheckBox>
 #include <QMenu>
 #include <QMouseEvent>
@@ -38,6 +39,8 @@ private slots:
     void dragging();
     void trayMenu();
     void trayActivation();
+    void tabReachesTheTitleButtonsLast();
+    void screenReadersToggleByClicking();
 };
 
 void TestShell::frame()
@@ -141,6 +144,47 @@ void TestShell::trayActivation()
     QVERIFY(!window.isVisible());
     emit icon->activated(QSystemTrayIcon::Unknown);
     QVERIFY(window.isVisible());
+}
+
+void TestShell::tabReachesTheTitleButtonsLast()
+{
+    TestWindow world;
+    world.writeSettings("backlight_on=true\n");
+    MainWindow &window = world.start();
+    window.show();
+    window.setFocus(Qt::OtherFocusReason); // as at the start of the program
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QStringList reached;
+    for (int i = 0; i < 100 && !reached.contains(QStringLiteral("closeButton")); ++i) {
+        QTest::keyClick(&window, Qt::Key_Tab);
+        reached.append(window.focusWidget()->objectName());
+    }
+    QCOMPARE(reached.first(), QStringLiteral("backlight_on"));
+    QCOMPARE(reached.mid(reached.size() - 3),
+             QStringList({QStringLiteral("pushButton_3"), QStringLiteral("minimizeButton"),
+                          QStringLiteral("closeButton")}));
+}
+
+void TestShell::screenReadersToggleByClicking()
+{
+    TestWindow world;
+    world.start();
+    auto *const box = world.get<QCheckBox>("Check_CloseHides");
+    QAccessibleInterface *const accessible = QAccessible::queryAccessibleInterface(box);
+    QCOMPARE(accessible->role(), QAccessible::CheckBox);
+    QCOMPARE(accessible->text(QAccessible::Name), box->text());
+    QVERIFY(accessible->state().checkable);
+    QVERIFY(!accessible->state().checked);
+    accessible->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    QVERIFY(accessible->state().checked);
+    QCOMPARE(world.stored(SettingKeys::minimizeClose), QStringLiteral("true"));
+
+    auto *const radio = world.get<QAbstractButton>("backlight_on");
+    QAccessibleInterface *const other = QAccessible::queryAccessibleInterface(radio);
+    QCOMPARE(other->role(), QAccessible::RadioButton);
+    other->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    QCOMPARE(world.stored(SettingKeys::backlightOn), QStringLiteral("true"));
 }
 
 QTEST_MAIN(TestShell)

@@ -58,8 +58,17 @@ class Control:
 
     role = property(lambda self: self.node.get_role_name())
     name = property(lambda self: self.node.get_name())
+    description = property(lambda self: self.node.get_description())
     value = property(lambda self: Atspi.Value.get_current_value(self.node))
     text = property(lambda self: Atspi.Text.get_text(self.node, 0, -1))
+
+    @property
+    def label(self):
+        """The name of the label beside it; None without one."""
+        for relation in self.node.get_relation_set():
+            if relation.get_relation_type() == Atspi.RelationType.LABELLED_BY:
+                return relation.get_target(0).get_name()
+        return None
 
     def has(self, state):
         return self.node.get_state_set().contains(getattr(Atspi.StateType, state))
