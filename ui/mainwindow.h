@@ -130,6 +130,7 @@ public slots:
     void on_colorpick5_3_clicked();
 
 protected:
+    void childEvent(QChildEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;

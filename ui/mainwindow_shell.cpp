@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QChildEvent>
 #include <QFile>
 #include <QIcon>
 #include <QMenu>
@@ -76,6 +77,16 @@ void MainWindow::SetStyle()
     }
     if (sheet.open(QIODevice::ReadOnly | QIODevice::Text)) {
         qApp->setStyleSheet(QTextStream(&sheet).readAll());
+    }
+}
+
+void MainWindow::childEvent(QChildEvent *event)
+{
+    QMainWindow::childEvent(event);
+    auto *const child = qobject_cast<QWidget *>(event->child());
+    if (event->polished() && child && child->isWindow()) {
+        // A message box that closes while the window is hidden is not the end of the program.
+        child->setAttribute(Qt::WA_QuitOnClose, false);
     }
 }
 

@@ -4,6 +4,7 @@
 #include <QAccessible>
 #include <QCheckBox>
 #include <QMenu>
+#include <QMessageBox>
 #include <QMouseEvent>
 #include <QSystemTrayIcon>
 #include <QTest>
@@ -38,6 +39,7 @@ private slots:
     void minimise();
     void dragging();
     void trayMenu();
+    void messageBoxDoesNotEndTheProgram();
     void trayActivation();
     void tabReachesTheTitleButtonsLast();
     void screenReadersToggleByClicking();
@@ -127,6 +129,21 @@ void TestShell::trayMenu()
     // "Exit" ends the program also while the window is hidden.
     window.hide();
     QVERIFY(endsTheProgram([&entries] { entries.at(1)->trigger(); }));
+}
+
+void TestShell::messageBoxDoesNotEndTheProgram()
+{
+    TestWindow world;
+    MainWindow &window = world.start();
+    window.show();
+    // A double click on the tray icon hides the window also while a box is open.
+    QMessageBox box(QMessageBox::Information, QString(), QStringLiteral("text"), QMessageBox::Ok,
+                    &window, Qt::FramelessWindowHint);
+    box.open();
+    window.show_hide(QSystemTrayIcon::DoubleClick);
+    QVERIFY(!window.isVisible());
+    QVERIFY(!endsTheProgram([&box] { box.button(QMessageBox::Ok)->click(); }));
+    QVERIFY(!box.isVisible());
 }
 
 void TestShell::trayActivation()

@@ -1,0 +1,47 @@
+#include "tests/support/programprocess.h"
+#include "tests/support/programwindow.h"
+#include "tests/support/testsystem.h"
+
+#include <QTest>
+
+/// The frameless window as the desktop's window manager treats it.
+class TestWindowFrame : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void minimisedAndRestoredFromOutside();
+
+private:
+    static QByteArray property(const char *name, qulonglong window)
+    {
+        return TestSystem::runDesktopTool(QStringLiteral("xprop"),
+                                          {QStringLiteral("-id"), QString::number(window),
+                                           QString::fromLatin1(name)});
+    }
+};
+
+void TestWindowFrame::minimisedAndRestoredFromOutside()
+{
+    ProgramProcess program;
+    QVERIFY(program.startAndServe());
+    QTRY_VERIFY(ProgramWindow::shown() != 0);
+    const qulonglong window = ProgramWindow::shown();
+    const QByteArray allowed = property("_NET_WM_ALLOWED_ACTIONS", window);
+    QVERIFY2(allowed.contains("_NET_WM_ACTION_MINIMIZE"), allowed.constData());
+    QVERIFY2(allowed.contains("_NET_WM_ACTION_CLOSE"), allowed.constData());
+    const QByteArray state = property("_NET_WM_STATE", window);
+    QVERIFY2(!state.contains("SKIP_TASKBAR"), state.constData());
+    const QRect place = ProgramWindow::geometry();
+
+    // As a task bar does both.
+    ProgramWindow::input({QStringLiteral("windowminimize"), QString::number(window)});
+    QTRY_VERIFY(property("WM_STATE", window).contains("Iconic"));
+    ProgramWindow::input({QStringLiteral("windowactivate"), QString::number(window)});
+    QTRY_VERIFY(property("WM_STATE", window).contains("Normal"));
+    QTRY_COMPARE(ProgramWindow::geometry(), place);
+    QCOMPARE(program.process.state(), QProcess::Running);
+}
+
+QTEST_MAIN(TestWindowFrame)
+#include "tst_windowframe.moc"
