@@ -134,11 +134,13 @@ class Program:
                            QT_FONT_DPI=str(dpi))
         self.process = subprocess.Popen([executable], cwd=executable.parent, env=environment,
                                         stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        try:
-            self.window = wait_for(self._find_window, "the window")
-        except AssertionError:
-            self.end()
-            raise
+        self._window = None
+
+    @property
+    def window(self):
+        if self._window is None:
+            self._window = wait_for(self.find_window, "the window")
+        return self._window
 
     def __enter__(self):
         return self
@@ -151,7 +153,8 @@ class Program:
         self.process.wait()
         self._home.cleanup()
 
-    def _find_window(self):
+    def find_window(self):
+        """The window, when it shows."""
         desktop = Atspi.get_desktop(0)
         for i in range(desktop.get_child_count()):
             application = desktop.get_child_at_index(i)
