@@ -15,9 +15,9 @@ private slots:
 private:
     static QByteArray property(const char *name, qulonglong window)
     {
-        return TestSystem::runDesktopTool(QStringLiteral("xprop"),
-                                          {QStringLiteral("-id"), QString::number(window),
-                                           QString::fromLatin1(name)});
+        return TestSystem::runDesktopTool(
+            QStringLiteral("xprop"),
+            {QStringLiteral("-id"), QString::number(window), QString::fromLatin1(name)});
     }
 };
 
