@@ -134,6 +134,29 @@ class ScreenReader(unittest.TestCase):
         self.assertIsNone(self.program.process.poll())
 
 
+class Sizes(unittest.TestCase):
+    # DPI: the window's least size, then the title buttons' and the left picture's.
+    EXPECTED = {
+        96: (600, 630, 25, (145, 95)), 97: (620, 680, 30, (145, 95)), 120: (620, 680, 30, (145, 95)),
+        121: (720, 780, 34, (165, 115)), 144: (720, 780, 34, (165, 115)),
+        168: (800, 890, 38, (175, 125)), 192: (900, 960, 42, (195, 145)),
+        216: (920, 1010, 48, (205, 155)), 240: (980, 1050, 48, (225, 155)),
+        241: (630, 630, 25, (145, 95)), 264: (630, 630, 25, (145, 95)),
+        287: (630, 630, 25, (145, 95)), 288: (1200, 1250, 52, (245, 165)),
+        335: (1200, 1250, 52, (245, 165)), 336: (1200, 1250, 56, (245, 165)),
+    }
+
+    def test_sizes_follow_the_dpi(self):
+        for dpi, (width, height, title, picture) in self.EXPECTED.items():
+            with self.subTest(dpi=dpi), Program(EXECUTABLE, SETTINGS, dpi) as program:
+                self.assertEqual(program.find(BUTTON, "Close").place[2:], (title, title))
+                program.find(LABEL, "Left")
+                self.assertEqual(program.find(IMAGE, "Left zone preview").place[2:], picture)
+                shown = program.window.place[2:]
+                self.assertGreaterEqual(shown[0], width)
+                self.assertGreaterEqual(shown[1], height)
+
+
 if __name__ == "__main__":
     with accessibility_bus():
         unittest.main(verbosity=2, warnings="ignore")
