@@ -48,6 +48,8 @@ inline constexpr SettingKey appName{"appname", StoredForm::Text};
 inline constexpr SettingKey highlightRed{"highlightcolor_RED", StoredForm::Integer};
 inline constexpr SettingKey highlightGreen{"highlightcolor_GREEN", StoredForm::Integer};
 inline constexpr SettingKey highlightBlue{"highlightcolor_BLUE", StoredForm::Integer};
+// Scheme and host of the update server, for a vendor that has its own.
+inline constexpr SettingKey updateServer{"updateserver", StoredForm::Text};
 } // namespace BrandingKeys
 
 /// Keys of the work file, group "workqueue"; only written.

@@ -61,6 +61,9 @@ public:
     Relaunch relaunchElevated() override
     {
         ++relaunches;
+        if (whenRelaunching) {
+            whenRelaunching();
+        }
         return relaunch;
     }
     void endProcess(int exitCode) override { ended = exitCode; }
@@ -72,6 +75,9 @@ public:
     void setFirmwareInterfaceLibrary(const QString &libraryPath) override
     {
         firmwareLibrary = libraryPath;
+        if (whenLibraryIsSet) {
+            whenLibraryIsSet();
+        }
     }
 
     // What the system is like
@@ -82,6 +88,10 @@ public:
     bool elevated = false;
     std::optional<quint32> elevationError;
     Relaunch relaunch = Relaunch::Launched;
+
+    // To look around at the moment of a call
+    std::function<void()> whenRelaunching;
+    std::function<void()> whenLibraryIsSet;
 
     // What was asked of it
     int polls = 0;

@@ -27,6 +27,23 @@ QByteArray runDesktopTool(const QString &tool, const QStringList &arguments);
 std::optional<QString> autostartEntry();
 void setAutostartEntry(const QString &path);
 
+/// The command that starts @p program with, or without, administrator rights, whoever runs the
+/// tests.
+QStringList commandWithRights(bool elevated, const QString &program);
+
+/// What the user answers when the system asks whether a program may have administrator rights.
+enum class Consent {
+    Given,
+    Declined,
+    Impossible, ///< nobody can be asked
+};
+
+/// Whether anything asks; Wine does not.
+bool asksForConsent();
+
+/// Puts what asks, where it is a program, into @p folder, which is to be on the path.
+void makeElevationHelper(const QString &folder, Consent consent);
+
 /// A folder that autostart launches begin in; made below @p home where the system has none.
 QString systemFolder(const QTemporaryDir &home);
 

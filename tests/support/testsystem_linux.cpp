@@ -49,6 +49,35 @@ void TestSystem::setAutostartEntry(const QString &path)
     writeFile(entryFile(), "[Desktop Entry]\nExec=\"" + path.toUtf8() + "\"\n");
 }
 
+QStringList TestSystem::commandWithRights(bool elevated, const QString &program)
+{
+    // A namespace in which this user is root, or is not; the files stay its own.
+    const QStringList names = elevated ? QStringList{QStringLiteral("--map-root-user")}
+                                       : QStringList{QStringLiteral("--map-user=1000"),
+                                                     QStringLiteral("--map-group=1000")};
+    return QStringList{QStringLiteral("unshare"), QStringLiteral("--user")} + names
+           + QStringList{program};
+}
+
+bool TestSystem::asksForConsent()
+{
+    return true;
+}
+
+void TestSystem::makeElevationHelper(const QString &folder, Consent consent)
+{
+    // pkexec becomes the program and leaves nothing open that it has inherited.
+    const QByteArray become =
+        "for fd in $(ls /proc/$$/fd); do [ \"$fd\" -gt 2 ] && eval \"exec $fd>&-\"; done\n"
+        "exec unshare --user --map-root-user \"$@\"\n";
+    const QByteArray body = consent == Consent::Given      ? become
+                            : consent == Consent::Declined ? "exit 126\n"
+                                                           : "exit 127\n";
+    const QString path = folder + QStringLiteral("/pkexec");
+    writeFile(path, "#!/bin/bash\n" + body);
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
 QString TestSystem::systemFolder(const QTemporaryDir &home)
 {
     const QString folder = home.filePath(QStringLiteral("WINDOWS/system32"));

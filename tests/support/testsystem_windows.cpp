@@ -82,6 +82,22 @@ void TestSystem::setAutostartEntry(const QString &path)
     QSettings(runKey, QSettings::NativeFormat).setValue(runValue, path);
 }
 
+QStringList TestSystem::commandWithRights(bool elevated, const QString &program)
+{
+    // Tests have administrator rights under Wine.
+    if (elevated) {
+        return {program};
+    }
+    return {QStringLiteral(LUMIKEY_WITHOUT_RIGHTS_PATH), program};
+}
+
+bool TestSystem::asksForConsent()
+{
+    return false;
+}
+
+void TestSystem::makeElevationHelper(const QString & /*folder*/, Consent /*consent*/) {}
+
 QString TestSystem::systemFolder(const QTemporaryDir & /*home*/)
 {
     return QStringLiteral("C:/windows/system32");

@@ -23,6 +23,7 @@ public:
     {
         QDir(folder.path()).mkpath(QStringLiteral("program/branding"));
         QDir::setCurrent(folder.filePath(QStringLiteral("program")));
+        writeBranding({});
     }
     ~TestWindow()
     {
@@ -35,6 +36,14 @@ public:
     void writeSettings(const QByteArray &lines)
     {
         writeFile(settings.settingsIni(), "[settings]\n" + lines);
+    }
+
+    /// The branding file; an update server that is not there answers at once.
+    void writeBranding(const QByteArray &lines,
+                       const QString &updateServer = QStringLiteral("http://127.0.0.1:1"))
+    {
+        writeFile(QStringLiteral("branding/lumikey_branding.ini"),
+                  "[settings]\nupdateserver=" + updateServer.toUtf8() + '\n' + lines);
     }
 
     /// What a stored key holds now; "(none)" when it is missing.
