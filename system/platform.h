@@ -108,7 +108,7 @@ public:
                                     const std::function<void()> &action) = 0;
 
     /// Starts a program with a window of its own and does not wait; a failure goes unnoticed.
-    /// @param commandLine as the system's own, relative to the current directory
+    /// @param commandLine as Windows writes it, relative to the current directory
     virtual void launch(const QString &commandLine) = 0;
 
     /// Tells the driver behind the firmware interface which library describes that interface. A

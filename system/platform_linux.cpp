@@ -131,7 +131,9 @@ public:
 
     void launch(const QString &commandLine) override
     {
-        QStringList words = QProcess::splitCommand(QDir::fromNativeSeparators(commandLine));
+        // Command lines come as Windows writes them.
+        QStringList words = QProcess::splitCommand(
+            QString(commandLine).replace(QLatin1Char('\\'), QLatin1Char('/')));
         if (!words.isEmpty()) {
             const QString program = words.takeFirst();
             QProcess::startDetached(program, words);

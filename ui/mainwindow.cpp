@@ -69,6 +69,13 @@ MainWindow::MainWindow(AppSettings appSettings, Platform &system, PrimaryRole &r
     DPIfixes();
     // Last, because the steps before may take their time: an agent finds the server or nobody.
     startServiceServer();
+
+    if (wasClosed) {
+        // "Exit" was chosen while the check for updates waited, before there was an event loop that
+        // it could end. It is to end as soon as it begins, and nothing is to be seen until then.
+        setAttribute(Qt::WA_DontShowOnScreen);
+        QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection);
+    }
 }
 
 MainWindow::~MainWindow() = default;

@@ -17,12 +17,14 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 class Platform;
 class PrimaryRole;
 class QMenu;
 class QTcpServer;
 struct DpiBand;
+struct Message;
 
 namespace Ui {
 class MainWindow;
@@ -53,6 +55,8 @@ signals:
     /// Relayed to the colour sample.
     void mouseMovedOnWindow();
     void mouseReleasedOnWindow();
+    /// The window closes, and with it the program: whoever waits inside a slot waits no longer.
+    void closed();
 
 public slots:
     // mainwindow_settings.cpp: the saved state comes back, and leaves
@@ -120,10 +124,26 @@ public slots:
     // mainwindow_dpi.cpp
     void DPIfixes();
 
-    // mainwindow_system.cpp: updates, autostart, uninstaller, per-key application
+    // mainwindow_rights.cpp: administrator rights, and what of the system needs them
+    /// @return non-zero when the process has administrator rights
+    /// @throws quint32 the system's error code, when that cannot be told; nobody catches it
+    BOOL IsAppRunningAsAdminMode();
+    /// Starts the program again with administrator rights and ends this process; goes on where that
+    /// fails.
+    void requestadmin();
+    /// Asks, then installs and registers the library that describes the firmware's interface. No
+    /// step's outcome is looked at. Blocks for up to a minute and a half.
+    void installmof();
+
+    // mainwindow_updates.cpp
+    /// The update server's answer as it comes; empty when there is none. Waits without a limit,
+    /// with the events served.
+    QString CheckAppVersion();
     void SetAppVersion();
     void on_Button_CheckforUpdate_clicked();
     void on_Button_Update_clicked();
+
+    // mainwindow_system.cpp: autostart, uninstaller, per-key application
     void on_Check_StartwithWindows_clicked();
     void on_pushButton_3_clicked();
     void on_UsePerKeyApp_clicked();
@@ -131,13 +151,13 @@ public slots:
 
 protected:
     void childEvent(QChildEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
     void restoreWindowGeometry();
-    void applyPerKeyMode(bool on);
     void enableStripePage(bool enabled);
     void loadZoneColours();
     void setLightingControlsEnabled(bool enabled);
@@ -160,7 +180,16 @@ private:
     void enlargeForBand(const DpiBand &band);
     void updateIdleTime();
     QByteArray companionSegmentContents();
+
+    std::optional<QString> fetchLatestVersion();
+    void showVersions(const QString &installed, const QString &latest);
+    void offerUpdate();
+    void offerElevation(const Message &question);
+    void startDetached(const QString &program, const QStringList &arguments);
     void startPerKeyApplication();
+    void enterPerKeyMode();
+    void leavePerKeyMode();
+    void setReplacedControlsEnabled(bool enabled);
     quint32 now() const;
 
     /// No slider has this value.
@@ -188,6 +217,12 @@ private:
     /// Low 32 bits of the clock at the last input that counts.
     quint32 lastActivityMs = 0;
     qint32 dimTimeoutMs = 0;
+
+    /// The user has asked for the check of the version and wants to hear of no update, too. Stays
+    /// set when there is one, on purpose.
+    bool manualCheck = false;
+    bool checkingVersion = false;
+    bool wasClosed = false;
 
     /// What the open picker edits: a kind of SetZoneColor().
     qint32 pickTarget = 0;

@@ -4,6 +4,7 @@
 
 #include "lighting/devicewords.h"
 #include "system/platform.h"
+#include "ui/darkstyle.h"
 #include "ui/zonepages.h"
 
 #include <QCoreApplication>
@@ -46,8 +47,11 @@ void MainWindow::LoadSettings()
 
     const bool perKey = settings.readSetting(SettingKeys::perKey).toBool();
     ui->UsePerKeyApp->setChecked(perKey);
-    applyPerKeyMode(perKey);
-    if (!perKey) {
+    if (perKey) {
+        enterPerKeyMode();
+    } else {
+        ui->tabWidget_2->setTabVisible(PerKeyPage, false);
+        DarkStyle::layOutTabs(ui->tabWidget_2->tabBar());
         lighting.stripeWord = wordText(blackWord(Zone::Stripe));
         lighting.centreWord = wordText(DeviceWords::loading);
         lastActivityMs = now();
@@ -64,25 +68,6 @@ void MainWindow::restoreWindowGeometry()
         setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, firstWindowSize,
                                         QGuiApplication::primaryScreen()->availableGeometry()));
     }
-}
-
-void MainWindow::applyPerKeyMode(bool on)
-{
-    if (!on) {
-        ui->tabWidget_2->setTabVisible(PerKeyPage, false);
-        return;
-    }
-    const std::initializer_list<QWidget *> lightingControls{
-        ui->horizontalSlider, ui->backlight_on,     ui->backlight_off, ui->touch_mouse_wake,
-        ui->StartHidden_2,    ui->CheckBox_AutoDim, ui->comboDimValue, ui->Combo_Effect,
-    };
-    for (QWidget *control : lightingControls) {
-        control->setEnabled(false);
-    }
-    for (const int page : {SinglePage, ZonesPage, StripePage}) {
-        ui->tabWidget_2->setTabVisible(page, false);
-    }
-    ui->tabWidget_2->setTabVisible(PerKeyPage, true);
 }
 
 void MainWindow::delayedApply()

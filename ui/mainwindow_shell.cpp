@@ -5,9 +5,11 @@
 #include <QAction>
 #include <QApplication>
 #include <QChildEvent>
+#include <QCloseEvent>
 #include <QFile>
 #include <QIcon>
 #include <QMenu>
+#include <QMessageBox>
 #include <QMouseEvent>
 #include <QTextStream>
 
@@ -87,6 +89,17 @@ void MainWindow::childEvent(QChildEvent *event)
     if (event->polished() && child && child->isWindow()) {
         // A message box that closes while the window is hidden is not the end of the program.
         child->setAttribute(Qt::WA_QuitOnClose, false);
+    }
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    QMainWindow::closeEvent(event);
+    wasClosed = true;
+    emit closed();
+    const auto boxes = findChildren<QMessageBox *>();
+    for (QMessageBox *box : boxes) {
+        box->reject(); // nobody is left to answer
     }
 }
 

@@ -3,6 +3,9 @@
 #include "ui_mainwindow.h"
 
 #include "system/platform.h"
+#include "ui/darkstyle.h"
+#include "ui/messages.h"
+#include "ui/zonepages.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -11,16 +14,43 @@
 namespace {
 
 /// Opens the chassis maker's packaged application for keyboards with a light under each key.
-const QString perKeyCommand =
-    QStringLiteral("explorer.exe shell:AppsFolder\\CLEVOCO.LedKeyboardSetting_6h6z29zh29qx0!App");
+constexpr const char *perKeyCommand =
+    "explorer.exe shell:AppsFolder\\CLEVOCO.LedKeyboardSetting_6h6z29zh29qx0!App";
+
+// Placed beside the program by its installation.
+constexpr const char *perKeyInstaller = "PERKEY\\RunAsAdministrator.bat";
+constexpr const char *uninstaller = "Uninstall.exe";
+
+/// A program of the installation, in a form that every system looks up in the current directory
+/// and nowhere else.
+QString besideProgram(const char *path)
+{
+    return QStringLiteral("./")
+           + QString::fromLatin1(path).replace(QLatin1Char('\\'), QLatin1Char('/'));
+}
 
 } // namespace
 
+void MainWindow::offerElevation(const Message &question)
+{
+    if (ask(this, question)) {
+        requestadmin();
+    }
+}
+
+void MainWindow::startDetached(const QString &program, const QStringList &arguments)
+{
+    auto *const process = new QProcess(this);
+    process->setProgram(program);
+    process->setArguments(arguments);
+    process->startDetached();
+}
+
 void MainWindow::startPerKeyApplication()
 {
-    QStringList words = QProcess::splitCommand(perKeyCommand);
+    QStringList words = QProcess::splitCommand(QString::fromLatin1(perKeyCommand));
     const QString program = words.takeFirst();
-    QProcess::startDetached(program, words);
+    startDetached(program, words);
 }
 
 void MainWindow::on_colorpick5_3_clicked()
@@ -35,5 +65,64 @@ void MainWindow::on_Check_StartwithWindows_clicked()
             QDir::toNativeSeparators(QCoreApplication::applicationFilePath()));
     } else {
         platform.removeAutostartValue();
+    }
+}
+
+void MainWindow::on_pushButton_3_clicked()
+{
+    if (IsAppRunningAsAdminMode() != 0) {
+        startDetached(besideProgram(uninstaller), {});
+    } else {
+        offerElevation(Messages::uninstallNeedsRights);
+    }
+}
+
+void MainWindow::on_UsePerKeyApp_clicked()
+{
+    if (!ui->UsePerKeyApp->isChecked()) {
+        settings.writeSetting(SettingKeys::perKey, false);
+        leavePerKeyMode();
+    } else if (IsAppRunningAsAdminMode() != 0) {
+        enterPerKeyMode();
+        settings.writeSetting(SettingKeys::perKey, true);
+        QProcess::execute(besideProgram(perKeyInstaller), {});
+    } else {
+        // Whatever the answer, the box stays checked while the stored mode stays off, on purpose.
+        offerElevation(Messages::perKeyNeedsRights);
+    }
+}
+
+void MainWindow::enterPerKeyMode()
+{
+    setReplacedControlsEnabled(false);
+    for (const int page : {SinglePage, ZonesPage, StripePage}) {
+        ui->tabWidget_2->setTabVisible(page, false);
+    }
+    ui->tabWidget_2->setTabVisible(PerKeyPage, true);
+    // With the backlight off the pages are disabled; the one that is left is to be used.
+    ui->tabWidget_2->setEnabled(true);
+    DarkStyle::layOutTabs(ui->tabWidget_2->tabBar());
+}
+
+void MainWindow::leavePerKeyMode()
+{
+    setReplacedControlsEnabled(true);
+    ui->tabWidget_2->setTabVisible(SinglePage, true);
+    ui->tabWidget_2->setTabVisible(ZonesPage, true);
+    if (ui->StartHidden_2->isChecked()) {
+        ui->tabWidget_2->setTabVisible(StripePage, true);
+    }
+    ui->tabWidget_2->setTabVisible(PerKeyPage, false);
+    DarkStyle::layOutTabs(ui->tabWidget_2->tabBar());
+}
+
+void MainWindow::setReplacedControlsEnabled(bool enabled)
+{
+    const std::initializer_list<QWidget *> lightingControls{
+        ui->horizontalSlider, ui->backlight_on,     ui->backlight_off, ui->touch_mouse_wake,
+        ui->StartHidden_2,    ui->CheckBox_AutoDim, ui->comboDimValue, ui->Combo_Effect,
+    };
+    for (QWidget *control : lightingControls) {
+        control->setEnabled(enabled);
     }
 }

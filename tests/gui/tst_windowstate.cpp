@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QCoreApplication>
 #include <QLabel>
+#include <QNetworkProxy>
 #include <QTabWidget>
 #include <QTest>
 
@@ -19,6 +20,7 @@ private slots:
     void autostartBoxWritesTheEntry();
     void title_data();
     void title();
+    void noBranding();
     void geometryIsSavedAndRestored();
 };
 
@@ -92,22 +94,30 @@ void TestWindowState::title_data()
 {
     QTest::addColumn<QByteArray>("branding");
     QTest::addColumn<QString>("title");
-    QTest::newRow("named") << QByteArray("[settings]\nappname=Night Light\n")
-                           << QStringLiteral("Night Light");
-    QTest::newRow("no name") << QByteArray("[settings]\n") << QString();
+    QTest::newRow("named") << QByteArray("appname=Night Light\n") << QStringLiteral("Night Light");
+    QTest::newRow("no name") << QByteArray() << QString();
     QTest::newRow("binary") << QByteArray("\0\xff\1[", 4) << QString();
-    QTest::newRow("no file") << QByteArray() << QString();
 }
 
 void TestWindowState::title()
 {
     QFETCH(QByteArray, branding);
     TestWindow world;
-    if (!branding.isEmpty()) {
-        writeFile(QStringLiteral("branding/lumikey_branding.ini"), branding);
-    }
+    world.writeBranding(branding);
     world.construct();
     QTEST(world.get<QLabel>("Title")->text(), "title");
+}
+
+void TestWindowState::noBranding()
+{
+    TestWindow world;
+    QVERIFY(QFile::remove(QStringLiteral("branding/lumikey_branding.ini")));
+    // Without the file the vendor's own server is asked; no test may do that.
+    QNetworkProxy::setApplicationProxy(
+        QNetworkProxy(QNetworkProxy::HttpCachingProxy, QStringLiteral("127.0.0.1"), 1));
+    world.construct();
+    QNetworkProxy::setApplicationProxy(QNetworkProxy(QNetworkProxy::NoProxy));
+    QCOMPARE(world.get<QLabel>("Title")->text(), QString());
 }
 
 void TestWindowState::geometryIsSavedAndRestored()

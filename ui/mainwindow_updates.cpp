@@ -1,0 +1,97 @@
+#include "ui/mainwindow.h"
+
+#include "ui_mainwindow.h"
+
+#include "system/platform.h"
+#include "system/versionrequest.h"
+#include "system/versions.h"
+#include "ui/messages.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+
+namespace {
+
+/// Placed beside the program by its installation; the backslash is part of the command line.
+constexpr const char *updater = "updates\\Update.exe";
+
+} // namespace
+
+std::optional<QString> MainWindow::fetchLatestVersion()
+{
+    const VersionRequest request(
+        versionUrl(settings.readBranding(BrandingKeys::updateServer).toString()));
+    QEventLoop loop;
+    connect(&request, SIGNAL(finished()), &loop, SLOT(quit()));
+    connect(this, SIGNAL(closed()), &loop, SLOT(quit()));
+    loop.exec();
+    if (!request.isFinished()) {
+        return std::nullopt; // the program is about to end
+    }
+    return request.text();
+}
+
+QString MainWindow::CheckAppVersion()
+{
+    return fetchLatestVersion().value_or(QString());
+}
+
+void MainWindow::SetAppVersion()
+{
+    if (checkingVersion) {
+        return; // the check that waits also answers this call
+    }
+    checkingVersion = true;
+    ui->Button_Update->setEnabled(false);
+    const std::optional<QString> latest = fetchLatestVersion();
+    checkingVersion = false;
+    if (latest) {
+        showVersions(QCoreApplication::applicationVersion(), *latest);
+    }
+}
+
+void MainWindow::showVersions(const QString &installed, const QString &latest)
+{
+    ui->Label_SoftwareVersion->setText(QStringLiteral("Installed: ") + installed);
+    ui->Label_SoftwareServerVersion->setText(QStringLiteral("Latest: ") + latest);
+    const UpdateVerdict &verdict = updateVerdict(compareVersions(installed, latest));
+    ui->Label_SoftwareVersion_desc->setText(QString::fromLatin1(verdict.description));
+    ui->Button_Update->setEnabled(verdict.updateWaits);
+    settings.writeWorkQueue(WorkKeys::updatePending, verdict.updateWaits);
+    if (verdict.updateWaits) {
+        offerUpdate();
+    } else if (manualCheck) {
+        tell(this, {Messages::updateTitle, verdict.notice});
+        manualCheck = false;
+    }
+}
+
+void MainWindow::offerUpdate()
+{
+    raise();
+    show();
+    showNormal();
+    activateWindow();
+    setFocus(Qt::ActiveWindowFocusReason);
+
+    if (IsAppRunningAsAdminMode() == 0) {
+        offerElevation(Messages::updateNeedsRights);
+    } else if (ask(this, Messages::updateNow)) {
+        platform.launch(QString::fromLatin1(updater));
+    }
+}
+
+void MainWindow::on_Button_CheckforUpdate_clicked()
+{
+    manualCheck = true;
+    SetAppVersion();
+}
+
+void MainWindow::on_Button_Update_clicked()
+{
+    if (IsAppRunningAsAdminMode() != 0) {
+        platform.launch(QString::fromLatin1(updater));
+    } else {
+        offerElevation(Messages::updateNeedsRights);
+    }
+}

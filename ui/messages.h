@@ -1,0 +1,38 @@
+#pragma once
+
+class QWidget;
+
+/// A modal box over the window: frameless, in the program's own look.
+struct Message
+{
+    const char *title;
+    const char *text;
+};
+
+/// Every question and notice, to the letter; some of their oddities look like mistakes and stay.
+namespace Messages {
+inline constexpr Message installFirmwareLibrary{
+    "Control Center not installed",
+    "You do not seem to be using Control Center. For this software to work we need to install a "
+    "small dll for it to work. Can we install it?.\n"};
+
+inline constexpr const char *updateTitle = "Update Information";
+inline constexpr Message updateNow{
+    updateTitle, "There is an update for this software! Do you want to update now?.\n"};
+inline constexpr Message updateNeedsRights{
+    updateTitle, "There is an update for this software! But to be able to update we need Admin "
+                 "access. Do you want to run this app with admin access so that we can update it "
+                 "automatically?"};
+
+inline constexpr Message uninstallNeedsRights{
+    "Monitor", "To uninstall Lumikey we need admin access.\nDo you allow it?\nLumikey will restart "
+               "with admin access, after that you should click the uninstall button again."};
+inline constexpr Message perKeyNeedsRights{
+    "Per Key Install", "To install the Per-Key RGB App we need Admin access, do you allow it?"};
+} // namespace Messages
+
+/// Asks with Yes and No; true only for Yes. Blocks until there is an answer.
+bool ask(QWidget *window, const Message &question);
+
+/// Tells, with OK. Blocks until the box is closed.
+void tell(QWidget *window, const Message &notice);
