@@ -1,5 +1,6 @@
 #include "system/polkit.h"
 
+#include <QDir>
 #include <QFile>
 #include <QStandardPaths>
 #include <QStringList>
@@ -48,11 +49,14 @@ Platform::Relaunch Polkit::relaunch(const QString &path)
         return Platform::Relaunch::Failed;
     }
     std::vector<QByteArray> words;
+    // pkexec would leave the program in root's home, where nothing of its own is found.
+    const QStringList environment{QStringLiteral("env"), QStringLiteral("-C"), QDir::currentPath()};
     for (const QString &word :
-         QStringList{pkexec, QStringLiteral("env")} + displayVariables() + QStringList{path}) {
+         QStringList{pkexec} + environment + displayVariables() + QStringList{path}) {
         words.push_back(QFile::encodeName(word));
     }
     std::vector<char *> arguments;
+    arguments.reserve(words.size() + 1);
     for (QByteArray &word : words) {
         arguments.push_back(word.data());
     }
