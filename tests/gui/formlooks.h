@@ -174,13 +174,21 @@ struct TextAlignment
 };
 inline constexpr int topCentre = Qt::AlignTop | Qt::AlignHCenter;
 inline constexpr std::array alignments{
-    TextAlignment{"label_13", Qt::AlignCenter}, TextAlignment{"label_14", Qt::AlignCenter},
-    TextAlignment{"keyboard_full", topCentre},  TextAlignment{"label_9", Qt::AlignCenter},
-    TextAlignment{"label_10", Qt::AlignCenter}, TextAlignment{"label_11", Qt::AlignCenter},
-    TextAlignment{"keyboard_left", topCentre},  TextAlignment{"keyboard_center", topCentre},
-    TextAlignment{"keyboard_right", topCentre}, TextAlignment{"label_15", Qt::AlignCenter},
-    TextAlignment{"label_17", Qt::AlignCenter}, TextAlignment{"leRGB", Qt::AlignCenter},
+    TextAlignment{"label_13", Qt::AlignCenter},
+    TextAlignment{"label_14", Qt::AlignCenter},
+    TextAlignment{"keyboard_full", topCentre},
+    TextAlignment{"label_9", Qt::AlignCenter},
+    TextAlignment{"label_10", Qt::AlignCenter},
+    TextAlignment{"label_11", Qt::AlignCenter},
+    TextAlignment{"keyboard_left", topCentre},
+    TextAlignment{"keyboard_center", topCentre},
+    TextAlignment{"keyboard_right", topCentre},
+    TextAlignment{"label_15", Qt::AlignCenter},
+    TextAlignment{"label_17", Qt::AlignCenter},
+    TextAlignment{"leRGB", Qt::AlignCenter},
     TextAlignment{"leHex", Qt::AlignCenter},
+    // Of a server's answer with several lines the first is the one to see.
+    TextAlignment{"Label_SoftwareServerVersion", Qt::AlignLeft | Qt::AlignTop},
 };
 
 /// Font weight set on a widget itself; all other widgets inherit theirs.
