@@ -78,7 +78,11 @@ MainWindow::MainWindow(AppSettings appSettings, Platform &system, PrimaryRole &r
     }
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow()
+{
+    // A menu that the desktop shows gives its items back one by one, not when it ends.
+    trayMenu->clear();
+}
 
 quint32 MainWindow::now() const
 {

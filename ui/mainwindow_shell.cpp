@@ -85,8 +85,11 @@ void MainWindow::SetStyle()
 void MainWindow::childEvent(QChildEvent *event)
 {
     QMainWindow::childEvent(event);
+    if (!event->polished()) { // a child that leaves may be no widget any more
+        return;
+    }
     auto *const child = qobject_cast<QWidget *>(event->child());
-    if (event->polished() && child && child->isWindow()) {
+    if (child && child->isWindow()) {
         // A message box that closes while the window is hidden is not the end of the program.
         child->setAttribute(Qt::WA_QuitOnClose, false);
     }

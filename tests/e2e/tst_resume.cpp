@@ -1,5 +1,5 @@
 #include "programlines.h"
-#include "sleepnotices.h"
+#include "system/testing/sleepnotices.h"
 
 #include "tests/support/programprocess.h"
 #include "tests/support/serviceclient.h"

@@ -133,7 +133,7 @@ class Program:
         environment = dict(os.environ, HOME=str(self.home), QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
                            QT_FONT_DPI=str(dpi))
         self.process = subprocess.Popen([executable], cwd=executable.parent, env=environment,
-                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+                                        stdout=subprocess.DEVNULL)
         self._window = None
 
     @property

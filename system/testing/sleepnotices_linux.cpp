@@ -1,4 +1,4 @@
-#include "sleepnotices.h"
+#include "system/testing/sleepnotices.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

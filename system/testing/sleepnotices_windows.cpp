@@ -1,11 +1,8 @@
-#include "sleepnotices.h"
+#include "system/testing/sleepnotices.h"
 
 #include <thread>
 
-#include <windef.h>
-
-#include <winbase.h>
-#include <winuser.h>
+#include <windows.h>
 
 struct SleepNotices::Private
 {
