@@ -1,5 +1,5 @@
-#include "tests/support/companionprocess.h"
 #include "system/testing/resourceusage.h"
+#include "tests/support/companionprocess.h"
 #include "tests/support/testwindow.h"
 
 #include <QAbstractButton>

@@ -1,7 +1,7 @@
 #include "dimworld.h"
 
-#include "tests/support/companionprocess.h"
 #include "system/testing/resourceusage.h"
+#include "tests/support/companionprocess.h"
 
 #include <QTimer>
 
