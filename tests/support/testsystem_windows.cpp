@@ -58,9 +58,10 @@ QByteArray TestSystem::runDesktopTool(const QString &tool, const QStringList &ar
     }
     line += QStringLiteral(" >partial\nmv partial output\n");
     writeFile(folder.filePath(QStringLiteral("tool")), line.toUtf8());
-    QProcess::execute(QStringLiteral("cmd"),
-                      {QStringLiteral("/c"), QStringLiteral("start"), QStringLiteral("/unix"),
-                       QStringLiteral("/bin/sh"), shellFolder + QStringLiteral("/tool")});
+    // The file tells when it has ended.
+    QProcess::startDetached(QStringLiteral("cmd"),
+                            {QStringLiteral("/c"), QStringLiteral("start"), QStringLiteral("/unix"),
+                             QStringLiteral("/bin/sh"), shellFolder + QStringLiteral("/tool")});
     const QString output = folder.filePath(QStringLiteral("output"));
     if (!QTest::qWaitFor([&output] { return QFile::exists(output); }, 30'000)) {
         qFatal("%s did not end", qPrintable(tool));
