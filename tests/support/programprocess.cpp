@@ -22,8 +22,9 @@ ProgramProcess::~ProgramProcess()
     process.kill();
     // By its notice, before anything waits for it: Wine's thread pool may call back into a wait
     // that is given up at that moment.
-    QTest::qWaitFor([this] { return process.state() == QProcess::NotRunning; });
-    process.waitForFinished();
+    if (!QTest::qWaitFor([this] { return process.state() == QProcess::NotRunning; })) {
+        process.waitForFinished();
+    }
 }
 
 QString ProgramProcess::documents()
