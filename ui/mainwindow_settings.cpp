@@ -85,6 +85,7 @@ void MainWindow::delayedApply()
     selectStored(*ui->comboDimValue, settings.readSetting(SettingKeys::dimTimer).toInt());
     ui->horizontalSlider->setValue(settings.readSetting(SettingKeys::brightLevel).toInt());
     savedBrightness = ui->horizontalSlider->value();
+    autoDimActive = false; // the slider is the user's again, also where an effect keeps polls off
     showBrightness("%");
     lighting.stripeLidColor = settings.readSetting(SettingKeys::stripeLid).toString();
     SetZoneColor(5, lighting.stripeLidColor);
@@ -98,8 +99,6 @@ void MainWindow::delayedApply()
                 starttimerdelay();
             }
         });
-    } else {
-        autoDimActive = false;
     }
     companionTimer->start(companionPeriodMs);
     loadingSettings = false;

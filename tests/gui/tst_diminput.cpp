@@ -17,6 +17,7 @@ private slots:
     void userDarkens();
     void backlightOffWhileDimmed();
     void resumeWakes();
+    void settingsAppliedWhileDimmedUnderAnEffect();
 };
 
 void TestDimInput::mouseButtons_data()
@@ -199,6 +200,22 @@ void TestDimInput::resumeWakes()
     world.poll();
     QCOMPARE(world.shown(), 100);
     QCOMPARE(world.stored(SettingKeys::brightLevel), QStringLiteral("100"));
+}
+
+/// As after a resume: no poll is there to tell that the slider is the user's again.
+void TestDimInput::settingsAppliedWhileDimmedUnderAnEffect()
+{
+    DimWorld world;
+    world.startDimming();
+    world.pollUntilDimmed();
+    world.get<QComboBox>("Combo_Effect")->setCurrentIndex(3);
+    world.window->delayedApply();
+    QCOMPARE(world.shown(), 100);
+    world.get<QSlider>("horizontalSlider")->setValue(60);
+    QCOMPARE(world.stored(SettingKeys::brightLevel), QStringLiteral("60"));
+    world.get<QComboBox>("Combo_Effect")->setCurrentIndex(0);
+    world.poll();
+    QCOMPARE(world.shown(), 60);
 }
 
 QTEST_MAIN(TestDimInput)
