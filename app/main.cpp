@@ -63,6 +63,11 @@ int main(int argc, char *argv[])
     setIdentity();
     QApplication::setStyle(new DarkStyle); // the application takes ownership
 
+    // Building the window lets events in, so a later start may come before there is a window.
+    bool startedAgain = false;
+    QObject::connect(&application, &SingleApplication::instanceStarted,
+                     [&startedAgain] { startedAgain = true; });
+
     const AppSettings paths;
     MainWindow window(paths, *platform, application, QDateTime::currentMSecsSinceEpoch);
     QObject::connect(&application, SIGNAL(aboutToQuit()), &window, SLOT(ShutdownQuit()));
@@ -83,7 +88,7 @@ int main(int argc, char *argv[])
     window.raise();
     window.setFocus(Qt::OtherFocusReason);
     window.activateWindow();
-    if (startHidden) {
+    if (startHidden && !startedAgain) {
         window.hide();
     }
     return QApplication::exec();

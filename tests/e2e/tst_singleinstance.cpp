@@ -160,6 +160,7 @@ private slots:
     void secondStartWhenCovered();
     void twentyAtOnce();
     void twentyBesideOne();
+    void whileTheFirstIsStarting_data();
     void whileTheFirstIsStarting();
     void killedHardAndStartedAgain();
     void anotherFolder();
@@ -203,7 +204,6 @@ void TestSingleInstance::secondStart()
         twin.construct();
         ProgramWindow::click(ProgramWindow::onScreen(*twin.window, "minimizeButton"));
     }
-    // Until the start is over: a window that is shown, hidden and shown at once may stay hidden.
     QVERIFY(eventually([&] { return ServiceClient::readLine() == Lines::off; }));
     QVERIFY(eventually([&] { return shownWindows() == 0; }));
 
@@ -269,10 +269,19 @@ void TestSingleInstance::twentyBesideOne()
     QTRY_COMPARE(ServiceClient::readLine(), Lines::off);
 }
 
+void TestSingleInstance::whileTheFirstIsStarting_data()
+{
+    QTest::addColumn<QByteArray>("settings");
+    QTest::newRow("shown") << QByteArray();
+    QTest::newRow("hidden in the tray") << QByteArray("start_hidden=1\n");
+}
+
+/// Whichever is the first to reach the guard; the other leaves, and the window is in front.
 void TestSingleInstance::whileTheFirstIsStarting()
 {
-    // Whichever is the first to reach the guard; the other leaves, and the window is in front.
-    for (const int delayMs : {0, 20, 60, 150}) {
+    QFETCH(QByteArray, settings);
+    ProgramProcess::writeSettings(settings);
+    for (const int delayMs : {0, 20, 60, 100, 150, 200, 250}) {
         FurtherStart one(*first);
         QTest::qWait(delayMs);
         FurtherStart other(*first);
