@@ -273,7 +273,9 @@ void TestSingleInstance::whileTheFirstIsStarting_data()
 {
     QTest::addColumn<QByteArray>("settings");
     QTest::newRow("shown") << QByteArray();
-    QTest::newRow("hidden in the tray") << QByteArray("start_hidden=1\n");
+    if (TestSystem::messagesOutliveTheirSender()) {
+        QTest::newRow("hidden in the tray") << QByteArray("start_hidden=1\n");
+    }
 }
 
 /// Whichever is the first to reach the guard; the other leaves, and the window is in front.

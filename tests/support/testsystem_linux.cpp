@@ -59,6 +59,11 @@ QStringList TestSystem::commandWithRights(bool elevated, const QString &program)
            + QStringList{program};
 }
 
+bool TestSystem::messagesOutliveTheirSender()
+{
+    return true;
+}
+
 bool TestSystem::asksForConsent()
 {
     return true;

@@ -92,6 +92,11 @@ QStringList TestSystem::commandWithRights(bool elevated, const QString &program)
     return {QStringLiteral(LUMIKEY_WITHOUT_RIGHTS_PATH), program};
 }
 
+bool TestSystem::messagesOutliveTheirSender()
+{
+    return false;
+}
+
 bool TestSystem::asksForConsent()
 {
     return false;
