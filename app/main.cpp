@@ -84,12 +84,16 @@ int main(int argc, char *argv[])
                        QDir::toNativeSeparators(QCoreApplication::applicationFilePath()));
     const bool startHidden = settings->value(settingsPath(SettingKeys::startHidden)).toBool();
 
+    const bool stayHidden = startHidden && !startedAgain;
+    // No flash, and nothing left to do for a window manager when a later start shows the window.
+    window.setAttribute(Qt::WA_DontShowOnScreen, stayHidden);
     window.show();
     window.raise();
     window.setFocus(Qt::OtherFocusReason);
     window.activateWindow();
-    if (startHidden && !startedAgain) {
+    if (stayHidden) {
         window.hide();
+        window.setAttribute(Qt::WA_DontShowOnScreen, false);
     }
     return QApplication::exec();
 }
