@@ -31,8 +31,8 @@ void setAutostartEntry(const QString &path);
 /// tests.
 QStringList commandWithRights(bool elevated, const QString &program);
 
-/// Whether a reader that is busy finds what a process wrote to it that has ended since. A named pipe
-/// without a buffer, as the toolkit makes them, takes it along.
+/// Whether a reader that is busy finds what a process wrote to it that has ended since. A named
+/// pipe without a buffer, as the toolkit makes them, takes it along.
 bool messagesOutliveTheirSender();
 
 /// What the user answers when the system asks whether a program may have administrator rights.
