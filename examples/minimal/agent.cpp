@@ -15,7 +15,8 @@ static QVector<uint> fetch()
 {
     QTcpSocket server;
     server.connectToHost(QHostAddress(QStringLiteral("127.0.0.9")), 52316);
-    server.waitForDisconnected(2000); // until the server closes
+    while (server.waitForReadyRead(2000)) { // until the server closes
+    }
     const QByteArray data = server.readAll();
     QDataStream stream(data); // big-endian; a text is its length and UTF-16
     quint16 length = 0;

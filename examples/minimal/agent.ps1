@@ -27,7 +27,7 @@ function Format-Words($words) {
     foreach ($zone in 0..3) {
         $code, $blue, $red, $green = '{0:x8}' -f $words[$zone] -split '(..)' -ne ''
         # Any other code is no colour: leave the zone as it is.
-        if ($code -eq "f$zone") { $parts += "$($zones[$zone]) #$red$green$blue" }
+        if ($code -eq "f$zone") { $parts += $zones[$zone] + " #$red$green$blue" }
     }
     ($parts + ('effect 0x{0:x8}' -f $words[4])) -join ', '
 }
