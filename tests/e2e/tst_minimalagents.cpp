@@ -177,7 +177,9 @@ void TestMinimalAgents::effectsOnThePage()
 void TestMinimalAgents::changes_data()
 {
     QTest::addColumn<QStringList>("command");
-    QTest::newRow("C++") << QStringList{QStringLiteral(LUMIKEY_MINIMAL_AGENT_PATH)};
+    // With its drive, where there are drives: the current directory is another one later.
+    QTest::newRow("C++") << QStringList{
+        QFileInfo(QStringLiteral(LUMIKEY_MINIMAL_AGENT_PATH)).absoluteFilePath()};
     QTest::newRow("Python") << QStringList{QStringLiteral("python3"),
                                            sourceFile("examples/minimal/agent.py")};
     QTest::newRow("PowerShell") << QStringList{QStringLiteral("pwsh"), QStringLiteral("-NoProfile"),
@@ -209,6 +211,7 @@ void TestMinimalAgents::changes()
     const QString zones = QStringLiteral("left #ff0000, centre #00ff00, right #0000ff, ");
 
     MinimalAgent agent(command);
+    QVERIFY(agent.process.waitForStarted());
     const QString first = zones + QStringLiteral("stripe #010203, ") + effectNone;
     QCOMPARE(agent.take(first), QStringList({wake, first}));
 
