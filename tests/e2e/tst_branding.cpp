@@ -1,3 +1,5 @@
+#include "app/settingskeys.h"
+#include "tests/e2e/documentpages.h"
 #include "tests/e2e/programlines.h"
 #include "tests/support/guitest.h"
 #include "tests/support/programprocess.h"
@@ -9,6 +11,7 @@
 #include <QApplication>
 #include <QDirIterator>
 #include <QLabel>
+#include <QRegularExpression>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
@@ -16,8 +19,8 @@
 namespace {
 
 const QByteArray settings = QByteArray(Lines::threeZonesSettings) + "P751LEDStripe=true\n";
-const QByteArray vendorsLines = "appname=Brightboard 9\nhighlightcolor_RED=200\n"
-                                "highlightcolor_GREEN=30\nhighlightcolor_BLUE=120\n";
+const QString page = QStringLiteral("docs/branding.md");
+const QString vendorsName = QStringLiteral("Brightboard 9");
 const QColor vendorsHighlight(200, 30, 120);
 
 /// The vendor's pictures are of one colour each.
@@ -81,13 +84,15 @@ class TestBranding : public QObject
 
 private slots:
     void initTestCase();
-    void init();
+    void pageIsComplete();
     void nameAndHighlight();
     void buttons();
     void previews();
     void updateServer();
 
 private:
+    /// Starts the vendor's program, and makes a window like it.
+    void start();
     QColor seen(const char *name, const QPoint &offset = {}) const
     {
         const QPoint place = ProgramWindow::onScreen(*twin->window, name, offset);
@@ -96,6 +101,7 @@ private:
     void openPage(int index) const;
 
     QTemporaryDir vendor;
+    QByteArray vendorsLines; ///< the page's own, but for the group and the server
     VersionServer server;
     std::unique_ptr<ProgramProcess> program;
     std::unique_ptr<TestWindow> twin;
@@ -107,6 +113,15 @@ void TestBranding::initTestCase()
     QFont font = QApplication::font();
     font.setPixelSize(12);
     QApplication::setFont(font);
+
+    const QStringList lines =
+        DocumentPages::block(page, QStringLiteral("ini")).split(QLatin1Char('\n'));
+    QCOMPARE(lines.value(0), QStringLiteral("[settings]"));
+    vendorsLines = lines.mid(1)
+                       .filter(QRegularExpression(QStringLiteral("^(app|high)")))
+                       .join(QLatin1Char('\n'))
+                       .toUtf8()
+                   + '\n';
 
     server.answerWith("1.0.4");
     copyFolder(ProgramProcess::programFolder(), vendor.path());
@@ -120,7 +135,7 @@ void TestBranding::initTestCase()
     }
 }
 
-void TestBranding::init()
+void TestBranding::start()
 {
     twin.reset();
     server.requests.clear();
@@ -150,9 +165,28 @@ void TestBranding::openPage(int index) const
     QTest::qWait(500);
 }
 
+void TestBranding::pageIsComplete()
+{
+    const QString text = DocumentPages::text(page);
+    const QStringList files =
+        QDir(DocumentPages::path(QStringLiteral("branding"))).entryList({QStringLiteral("*.png")});
+    QVERIFY(!files.isEmpty());
+    for (const QString &file : files) {
+        QVERIFY2(text.contains(QLatin1Char('`') + file + QLatin1Char('`')), qPrintable(file));
+    }
+    for (const SettingKey &key :
+         {BrandingKeys::appName, BrandingKeys::highlightRed, BrandingKeys::highlightGreen,
+          BrandingKeys::highlightBlue, BrandingKeys::updateServer}) {
+        const QString name = QString::fromLatin1(key.name);
+        QVERIFY2(text.contains(QLatin1Char('`') + name + QLatin1Char('`')), key.name);
+        QVERIFY2(text.contains(QLatin1Char('\n') + name + QLatin1Char('=')), key.name);
+    }
+}
+
 void TestBranding::nameAndHighlight()
 {
-    QCOMPARE(twin->get<QLabel>("Title")->text(), QStringLiteral("Brightboard 9"));
+    start();
+    QCOMPARE(twin->get<QLabel>("Title")->text(), vendorsName);
     ProgramWindow::onScreen(*twin->window, "Title"); // lays the twin out
     const QRect place = twin->get<QLabel>("Title")->geometry();
     const QImage expected = twin->window->grab().toImage().convertToFormat(QImage::Format_RGB32);
@@ -168,6 +202,7 @@ void TestBranding::nameAndHighlight()
 
 void TestBranding::buttons()
 {
+    start();
     for (const char *name : {"close", "minimize"}) {
         const QByteArray button = QByteArray(name) + "Button";
         QCOMPARE(seen(button.constData()), vendorsColour(name));
@@ -186,6 +221,7 @@ void TestBranding::buttons()
 
 void TestBranding::previews()
 {
+    start();
     const auto check = [this](const char *name, const QColor &light) {
         const QColor expected = lit(vendorsColour(name), light);
         const QColor found = seen(qstrcmp(name, "stripe_lidled") == 0 ? "stripe_led" : name);
@@ -204,6 +240,7 @@ void TestBranding::previews()
 
 void TestBranding::updateServer()
 {
+    start();
     // At the start, as every time.
     QCOMPARE(server.requests.size(), 1);
     QVERIFY2(server.requests.first().startsWith("GET /lumikey/version HTTP/1.1\r\n"),

@@ -1,4 +1,5 @@
 #include "examples/agent/answer.h"
+#include "tests/e2e/documentpages.h"
 #include "tests/e2e/programlines.h"
 #include "tests/support/guitest.h"
 #include "tests/support/programprocess.h"
@@ -16,25 +17,7 @@ namespace {
 
 const QString effectNone = QStringLiteral("effect 0x00000000");
 
-QString sourceFile(const char *name)
-{
-    return QStringLiteral(LUMIKEY_SOURCE_DIR "/") + QLatin1String(name);
-}
-
-/// A text file of the sources, with plain line ends.
-QString sourceText(const char *name)
-{
-    return QString::fromUtf8(readFile(sourceFile(name))).remove(QLatin1Char('\r'));
-}
-
-/// What stands between the fences of the page's only block of this language.
-QString blockOfThePage(const char *language)
-{
-    const QStringList parts =
-        sourceText("docs/agent-protocol.md")
-            .split(QStringLiteral("```") + QLatin1String(language) + QLatin1Char('\n'));
-    return parts.size() == 2 ? parts.at(1).section(QStringLiteral("```"), 0, 0) : QString();
-}
+const QString page = QStringLiteral("docs/agent-protocol.md");
 
 /// One of the agents, running.
 class MinimalAgent
@@ -124,27 +107,26 @@ void TestMinimalAgents::initTestCase()
 
 void TestMinimalAgents::pageHoldsTheSources_data()
 {
-    QTest::addColumn<QByteArray>("language");
-    QTest::addColumn<QByteArray>("file");
-    QTest::newRow("Python") << QByteArray("python") << QByteArray("examples/minimal/agent.py");
-    QTest::newRow("PowerShell") << QByteArray("powershell")
-                                << QByteArray("examples/minimal/agent.ps1");
-    QTest::newRow("C++") << QByteArray("cpp") << QByteArray("examples/minimal/agent.cpp");
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("file");
+    QTest::newRow("Python") << QStringLiteral("python") << QStringLiteral("agent.py");
+    QTest::newRow("PowerShell") << QStringLiteral("powershell") << QStringLiteral("agent.ps1");
+    QTest::newRow("C++") << QStringLiteral("cpp") << QStringLiteral("agent.cpp");
 }
 
 void TestMinimalAgents::pageHoldsTheSources()
 {
-    QFETCH(QByteArray, language);
-    QFETCH(QByteArray, file);
-    const QString source = sourceText(file.constData());
+    QFETCH(QString, language);
+    QFETCH(QString, file);
+    const QString source = DocumentPages::text(QStringLiteral("examples/minimal/") + file);
     QVERIFY(!source.isEmpty());
-    QCOMPARE(blockOfThePage(language.constData()), source);
+    QCOMPARE(DocumentPages::block(page, language), source);
 }
 
 void TestMinimalAgents::dumpOnThePage()
 {
     program = std::make_unique<ProgramProcess>();
-    const QByteArray settings = blockOfThePage("ini").toUtf8();
+    const QByteArray settings = DocumentPages::block(page, QStringLiteral("ini")).toUtf8();
     QVERIFY(settings.startsWith("[settings]\n"));
     writeFile(ProgramProcess::settingsFile(), settings);
     QVERIFY(program->startAndServe());
@@ -154,23 +136,25 @@ void TestMinimalAgents::dumpOnThePage()
     const QByteArray answer = ServiceClient::readAnswer();
 
     QByteArray hex;
-    const QStringList lines = blockOfThePage("dump").split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    const QStringList lines = DocumentPages::block(page, QStringLiteral("dump"))
+                                  .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     for (const QString &line : lines) {
         QCOMPARE(line.section(QLatin1Char(':'), 0, 0).toInt(nullptr, 16), hex.size() / 2);
         hex += line.mid(10, 47).remove(QLatin1Char(' ')).toLatin1();
     }
     QCOMPARE(hex, answer.toHex());
-    QCOMPARE(blockOfThePage("line").trimmed(), ServiceClient::lineOf(answer));
+    QCOMPARE(DocumentPages::block(page, QStringLiteral("line")).trimmed(),
+             ServiceClient::lineOf(answer));
 }
 
 void TestMinimalAgents::effectsOnThePage()
 {
-    const QString page = sourceText("docs/agent-protocol.md");
+    const QString text = DocumentPages::text(page);
     int index = 0;
     for (const agent::Effect &effect : agent::effects) {
         const QString row = QString::asprintf("\n| %d | %s | %u | 0x%08x |\n", index++, effect.name,
                                               effect.word, effect.word);
-        QVERIFY2(page.contains(row), qPrintable(row));
+        QVERIFY2(text.contains(row), qPrintable(row));
     }
 }
 
@@ -180,11 +164,12 @@ void TestMinimalAgents::changes_data()
     // With its drive, where there are drives: the current directory is another one later.
     QTest::newRow("C++") << QStringList{
         QFileInfo(QStringLiteral(LUMIKEY_MINIMAL_AGENT_PATH)).absoluteFilePath()};
-    QTest::newRow("Python") << QStringList{QStringLiteral("python3"),
-                                           sourceFile("examples/minimal/agent.py")};
-    QTest::newRow("PowerShell") << QStringList{QStringLiteral("pwsh"), QStringLiteral("-NoProfile"),
-                                               QStringLiteral("-File"),
-                                               sourceFile("examples/minimal/agent.ps1")};
+    QTest::newRow("Python") << QStringList{
+        QStringLiteral("python3"),
+        DocumentPages::path(QStringLiteral("examples/minimal/agent.py"))};
+    QTest::newRow("PowerShell") << QStringList{
+        QStringLiteral("pwsh"), QStringLiteral("-NoProfile"), QStringLiteral("-File"),
+        DocumentPages::path(QStringLiteral("examples/minimal/agent.ps1"))};
 }
 
 void TestMinimalAgents::startShown()
