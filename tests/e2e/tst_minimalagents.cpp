@@ -230,14 +230,14 @@ void TestMinimalAgents::changes()
     twin->get<QAbstractButton>("pushButton")->click();
     clickOn("horizontalSlider"); // takes the focus
     ProgramWindow::press({QStringLiteral("Home")});
-    QCOMPARE(agent.take(off).last(), off);
+    QVERIFY(agent.take(off).endsWith(off));
 
     // Away and back: what is the same as before is news all the same.
     program->process.kill();
     QTRY_COMPARE(program->process.state(), QProcess::NotRunning);
     QTest::qWait(2500); // the agent notices
     startShown();
-    QCOMPARE(agent.take(off).last(), off);
+    QVERIFY(agent.take(off).endsWith(off));
     QCOMPARE(agent.process.state(), QProcess::Running);
 }
 
