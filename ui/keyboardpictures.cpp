@@ -36,8 +36,12 @@ QPixmap tinted(const QPixmap &picture, const QColor &colour)
     if (picture.isNull()) {
         return picture;
     }
-    QPixmap copy = picture;
+    // A vendor's picture may come without an alpha channel, which the tint needs.
+    QPixmap copy(picture.size());
+    copy.setDevicePixelRatio(picture.devicePixelRatio());
+    copy.fill(Qt::transparent);
     QPainter painter(&copy);
+    painter.drawPixmap(0, 0, picture);
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter.fillRect(copy.rect(), QBrush(colour));
     return copy;

@@ -1,7 +1,10 @@
 """Works the program's tray icon from outside, as a desktop's panel does."""
 
 import pathlib
+import shutil
+import subprocess
 import sys
+import tempfile
 import time
 import unittest
 
@@ -60,6 +63,18 @@ class Tray(unittest.TestCase):
         time.sleep(1)
         self.assertIsNone(program.find_window())
         self.assertIsNone(program.process.poll())
+
+    def test_a_vendors_picture(self):
+        with tempfile.TemporaryDirectory() as folder:
+            vendors = pathlib.Path(folder) / "Lumikey"
+            shutil.copy(EXECUTABLE, vendors)
+            (vendors.parent / "branding").mkdir()
+            subprocess.run(["convert", "-size", "64x64", "xc:#c81e78",
+                            vendors.parent / "branding/lumikey_system_tray.png"], check=True)
+            program = Program(vendors)
+            self.addCleanup(program.end)
+            self.desktop.wait_for_icon()
+            self.assertEqual(self.desktop.icon_colours(), {(0xff, 0xc8, 0x1e, 0x78)})
 
 
 if __name__ == "__main__":

@@ -187,7 +187,9 @@ inline constexpr std::array alignments{
     TextAlignment{"label_17", Qt::AlignCenter},
     TextAlignment{"leRGB", Qt::AlignCenter},
     TextAlignment{"leHex", Qt::AlignCenter},
-    // Of a server's answer with several lines the first is the one to see.
+    // Of a server's answer with several lines the first is the one to see, level with the version
+    // beside it.
+    TextAlignment{"Label_SoftwareVersion", Qt::AlignLeft | Qt::AlignTop},
     TextAlignment{"Label_SoftwareServerVersion", Qt::AlignLeft | Qt::AlignTop},
 };
 

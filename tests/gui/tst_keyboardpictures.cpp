@@ -12,6 +12,7 @@ class TestKeyboardPictures : public QObject
 private slots:
     void componentBeyond255();
     void tintKeepsTheShape();
+    void pictureWithoutAlphaIsTinted();
     void tintPictures_data();
     void tintPictures();
     void tintWithoutPicture();
@@ -53,6 +54,14 @@ void TestKeyboardPictures::tintKeepsTheShape()
     QCOMPARE(result.pixelColor(0, 0).red(), 255);
     QCOMPARE(result.pixelColor(0, 0).green(), 0);
     QCOMPARE(result.pixelColor(1, 0).alpha(), 0);
+}
+
+void TestKeyboardPictures::pictureWithoutAlphaIsTinted()
+{
+    QImage image(2, 1, QImage::Format_RGB32);
+    image.fill(QColor(10, 20, 30));
+    const QImage result = tinted(QPixmap::fromImage(image), QColor(255, 0, 0, 30)).toImage();
+    QCOMPARE(result.pixelColor(0, 0), QColor(255, 0, 0, 30));
 }
 
 void TestKeyboardPictures::tintPictures_data()

@@ -54,10 +54,18 @@ class TrayDesktop:
     def wait_for_icon(self):
         wait_for(lambda: self.item, "a tray icon")
 
+    def _property(self, name):
+        return self._call("/StatusNotifierItem", "org.freedesktop.DBus.Properties", "Get",
+                          GLib.Variant("(ss)", ("org.kde.StatusNotifierItem", name)))[0]
+
+    def icon_colours(self):
+        """Every colour of the icon: alpha, red, green and blue."""
+        return {tuple(pixels[i:i + 4]) for _width, _height, pixels in self._property("IconPixmap")
+                for i in range(0, len(pixels), 4)}
+
     def menu(self):
         """The entries' identifiers by their texts, in order."""
-        path = self._call("/StatusNotifierItem", "org.freedesktop.DBus.Properties", "Get",
-                          GLib.Variant("(ss)", ("org.kde.StatusNotifierItem", "Menu")))[0]
+        path = self._property("Menu")
         self._menu_path = path
         layout = self._call(path, MENU, "GetLayout", GLib.Variant("(iias)", (0, -1, [])))[1]
         return {entry[1]["label"]: entry[0] for entry in layout[2]}
