@@ -85,6 +85,8 @@ void MainWindow::delayedApply()
     selectStored(*ui->comboDimValue, settings.readSetting(SettingKeys::dimTimer).toInt());
     ui->horizontalSlider->setValue(settings.readSetting(SettingKeys::brightLevel).toInt());
     savedBrightness = ui->horizontalSlider->value();
+    // A tick during loading noted its brightness and applied nothing.
+    lastAppliedBrightness = nothingApplied;
     autoDimActive = false; // the slider is the user's again, also where an effect keeps polls off
     showBrightness("%");
     lighting.stripeLidColor = settings.readSetting(SettingKeys::stripeLid).toString();
