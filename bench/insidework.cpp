@@ -132,7 +132,7 @@ public:
                                    KeyboardPicture::Right, KeyboardPicture::Full}) {
             decode(picture, colour, brightness);
         }
-        world.settings.writeSetting(SettingKeys::singleColourLast, true);
+        world.settings.keepSetting(SettingKeys::singleColourLast, true);
         QCoreApplication::processEvents();
     }
 

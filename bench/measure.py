@@ -31,7 +31,7 @@ class Runs:
 
 
 def pairs_row(name, unit, pairs, digits=1, **limit):
-    """The row of rounds (program, baseline)."""
+    """The row of rounds, each of the program and the baseline."""
     return Row(name, unit, statistics.median(p for p, _ in pairs),
                statistics.median(b for _, b in pairs),
                statistics.median(p / b for p, b in pairs), digits, **limit)
@@ -110,8 +110,9 @@ def clients(runs):
         for count in LOADS:
             taken = in_turns(runs.rounds, lambda n=count: answers(program, n, runs.growth_ms),
                              lambda n=count: answers(bare, n, runs.growth_ms))
-            row = pairs_row(f"answers, {count} clients at once, none lost", "1/s",
-                            [(p["rate"], b["rate"]) for p, b in taken], 0, at_least=0.7)
+            row = pairs_row(f"answers, {count} clients at once", "1/s",
+                            [(p["rate"], b["rate"]) for p, b in taken], 0)
+            row.limit = "none lost"
             row.require(all(p["lost"] == 0 for p, _ in taken))
             yield row
 
@@ -122,7 +123,8 @@ def foreign(runs):
 
 
 def changes(runs):
-    samples = [kib / 1024 for _, kib in inside("changes", runs.changes)]
+    # Each change is stored, and the disk would make it wait for minutes.
+    samples = [kib / 1024 for _, kib in inside("changes", runs.changes, in_memory=True)]
     tenth = len(samples) // 10
     # Early and late, each over as many changes, because the allocator keeps and returns pages.
     early, late = statistics.median(samples[tenth:2 * tenth]), statistics.median(samples[-tenth:])

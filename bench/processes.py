@@ -142,9 +142,11 @@ def answers(server, clients, milliseconds):
     return json.loads(result.stdout)
 
 
-def inside(figure, number):
+def inside(figure, number, in_memory=False):
     """The rounds of a piece of work inside the program: pairs of numbers."""
     environment = dict(os.environ, QT_QPA_PLATFORM="offscreen")
+    if in_memory and os.access("/dev/shm", os.W_OK):
+        environment["TMPDIR"] = "/dev/shm"
     result = subprocess.run([BUILD / "bench/insidework", figure, str(number)], text=True,
                             env=environment, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
                             check=False)
