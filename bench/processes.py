@@ -18,6 +18,7 @@ LOADS = (1, 2, 4, 8, 16, 32, 64, 128, 256)
 SETTLED_AFTER_SECONDS = 3  # settings are applied a second after the start
 IDLE_AFTER_SECONDS = 8  # auto-dim begins to watch five seconds later
 START_LIMIT_SECONDS = 30
+APART_SECONDS = 0.5  # between two starts that go on beside each other
 
 SETTINGS = """[settings]
 backlight_on=true
@@ -174,24 +175,31 @@ class Idle:
                     program = [BUILD / "bin/Lumikey"]
                     bare = [BUILD / "bench/bareprogram", ADDRESS, str(PROGRAM_PORT), "hidden",
                             "timer"]
-                    started.append(tuple(
-                        subprocess.Popen(self.APART + command, env=environment, cwd=cwd,
-                                         stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-                        for command in (program, bare)))
+                    for command in (program, bare):
+                        started.append(self._start(command, environment, cwd))
                 time.sleep(IDLE_AFTER_SECONDS)
                 before = self._cpu(started)
                 time.sleep(self._seconds)
                 after = self._cpu(started)
             finally:
-                for process in sum(started, ()):
+                for process in started:
                     process.terminate()
                     process.wait()
-        return [tuple((end - begin) / self._seconds * 100 for begin, end in zip(*pair))
-                for pair in zip(before, after)]
+        shares = [(end - begin) / self._seconds * 100 for begin, end in zip(before, after)]
+        return list(zip(shares[::2], shares[1::2]))
+
+    def _start(self, command, environment, cwd):
+        with open(cwd / f"{pathlib.Path(command[0]).name}.log", "wb") as log:
+            process = subprocess.Popen(self.APART + command, env=environment, cwd=cwd,
+                                       stdout=log, stderr=log)
+        process.log = pathlib.Path(log.name)
+        time.sleep(APART_SECONDS)  # a display turns programs away that come all at once
+        return process
 
     @staticmethod
-    def _cpu(pairs):
-        for process in sum(pairs, ()):
+    def _cpu(processes):
+        for process in processes:
             if process.poll() is not None:
-                raise RuntimeError(f"{process.args[-1]} ended with {process.returncode}")
-        return [tuple(cpu_seconds(process.pid) for process in pair) for pair in pairs]
+                raise RuntimeError(f"{process.log.stem} ended with {process.returncode}: "
+                                   f"{process.log.read_text(errors='replace')}")
+        return [cpu_seconds(process.pid) for process in processes]
