@@ -74,6 +74,14 @@ void AppSettings::writeSetting(const SettingKey &key, const QVariant &value) con
     report(WriteSettings, *settings);
 }
 
+void AppSettings::keepSetting(const SettingKey &key, const QVariant &value) const
+{
+    const QVariant stored = readSetting(key);
+    if (!stored.isValid() || stored.toString() != inStoredForm(key, value).toString()) {
+        writeSetting(key, value);
+    }
+}
+
 QVariant AppSettings::readBranding(const SettingKey &key) const
 {
     return readFrom(ReadBranding, brandingIniPath, key);
@@ -104,7 +112,7 @@ QVariant AppSettings::readFrom(Access access, const QString &path, const Setting
 
 void AppSettings::report(Access access, const QSettings &settings) const
 {
-    settings.allKeys(); // parses every section: damage is found now, not after a write
+    settings.childKeys(); // parses every section: damage is found now, not after a write
     QSettings::Status status = settings.status();
     if (status == QSettings::NoError && isUnreadable(settings.fileName())) {
         status = QSettings::AccessError;

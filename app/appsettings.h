@@ -35,6 +35,9 @@ public:
     QVariant readSetting(const SettingKey &key) const;
     /// Stores @p value in the key's own form.
     void writeSetting(const SettingKey &key, const QVariant &value) const;
+    /// The same, without touching a file that holds the very value: for what is stored again and
+    /// again, where each write waits for the disk.
+    void keepSetting(const SettingKey &key, const QVariant &value) const;
     QVariant readBranding(const SettingKey &key) const;
     void writeWorkQueue(const SettingKey &key, const QVariant &value) const;
 

@@ -61,7 +61,7 @@ void MainWindow::tintPicture(int img, const QString &colour)
 void MainWindow::rememberSingleColour(bool selected)
 {
     if (!loadingSettings) {
-        settings.writeSetting(SettingKeys::singleColourLast, selected);
+        settings.keepSetting(SettingKeys::singleColourLast, selected);
         lighting.singleColorSelected = selected;
     }
 }

@@ -28,6 +28,8 @@ private slots:
     void startHiddenIsANumberThatReadsAsBoolean();
     void folderIsMadeBeforeTheFirstWrite();
     void everyWriteIsOnDiskAtOnce();
+    void whatTheFileHoldsIsKept_data();
+    void whatTheFileHoldsIsKept();
     void foreignKeysStay();
     void branding();
     void missingBranding();
@@ -168,6 +170,29 @@ void TestAppSettings::everyWriteIsOnDiskAtOnce()
         settings->writeSetting(SettingKeys::brightLevel, level);
         QVERIFY(settingsText().contains("brightlevel=" + QByteArray::number(level)));
     }
+}
+
+void TestAppSettings::whatTheFileHoldsIsKept_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("after");
+    // QSettings leaves no comment behind, so one tells whether the file was written.
+    QTest::newRow("the same") << QByteArray("[settings]\n;\nAutoDim=true\n")
+                              << QByteArray("[settings]\n;\nAutoDim=true\n");
+    QTest::newRow("another") << QByteArray("[settings]\n;\nAutoDim=false\n")
+                             << QByteArray("[settings]\nAutoDim=true\n");
+    QTest::newRow("another form") << QByteArray("[settings]\n;\nAutoDim=1\n")
+                                  << QByteArray("[settings]\nAutoDim=true\n");
+    QTest::newRow("none") << QByteArray("[settings]\n;\n")
+                          << QByteArray("[settings]\nAutoDim=true\n");
+}
+
+void TestAppSettings::whatTheFileHoldsIsKept()
+{
+    QFETCH(QByteArray, before);
+    writeFile(settings->settingsIni(), before);
+    settings->keepSetting(SettingKeys::autoDim, true);
+    QTEST(settingsText().replace("\r\n", "\n"), "after");
 }
 
 void TestAppSettings::foreignKeysStay()

@@ -1,0 +1,205 @@
+"""The program and its yardsticks as processes, and what the system tells about them."""
+
+import json
+import os
+import pathlib
+import shutil
+import socket
+import subprocess
+import tempfile
+import time
+
+ROOT = pathlib.Path(__file__).resolve().parents[1]
+BUILD = ROOT / "build/release"
+ADDRESS = "127.0.0.9"
+PROGRAM_PORT = 52316
+ANSWERING = 96  # bytes
+LOADS = (1, 2, 4, 8, 16, 32, 64, 128, 256)
+SETTLED_AFTER_SECONDS = 3  # settings are applied a second after the start
+IDLE_AFTER_SECONDS = 8  # auto-dim begins to watch five seconds later
+START_LIMIT_SECONDS = 30
+APART_SECONDS = 0.5  # between two starts that go on beside each other
+
+SETTINGS = """[settings]
+backlight_on=true
+backlight_off=false
+brightlevel=100
+Zone1Color=255 85 0
+Zone2Color=0 255 0
+Zone3Color=0 0 255
+StripeLid=0 255 0
+"""
+# The longest idle time, so that what is measured is the watching.
+IN_THE_TRAY = "start_hidden=1\nAutoDim=true\ndimtimer=8\n"
+
+
+def cpu_seconds(pid):
+    """CPU time of all threads of a process, those that have ended included."""
+    return time.clock_gettime((~pid << 3) | 2)  # the system's own number for that clock
+
+
+class Process:
+    """A started process; the first answer has been served when the context is entered."""
+
+    port = PROGRAM_PORT
+
+    def __init__(self, command, environment=None, cwd=None):
+        self._command, self._environment, self._cwd = command, environment, cwd
+
+    def __enter__(self):
+        self.process = subprocess.Popen(self._command, env=self._environment, cwd=self._cwd,
+                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        try:
+            self._wait_for_answer()
+        except BaseException:
+            self.__exit__()
+            raise
+        self.cpu_until_answer_ms = cpu_seconds(self.process.pid) * 1000
+        self._started = time.monotonic()
+        return self
+
+    def __exit__(self, *_):
+        self.process.terminate()
+        self.process.wait()
+
+    def _wait_for_answer(self):
+        end = time.monotonic() + START_LIMIT_SECONDS
+        while time.monotonic() < end:
+            if self.process.poll() is not None:
+                raise RuntimeError(f"{self._command[0]} ended with {self.process.returncode}")
+            try:
+                with socket.create_connection((ADDRESS, self.port), timeout=5) as connection:
+                    received = 0
+                    while piece := connection.recv(4096):
+                        received += len(piece)
+            except ConnectionRefusedError:
+                time.sleep(0.001)
+                continue
+            if received != ANSWERING:
+                raise RuntimeError(f"{self._command[0]} answered {received} bytes")
+            return
+        raise RuntimeError(f"{self._command[0]} answered nobody")
+
+    def settle(self):
+        time.sleep(max(0, self._started + SETTLED_AFTER_SECONDS - time.monotonic()))
+
+    def memory_kib(self):
+        """Proportional share of the memory."""
+        text = pathlib.Path(f"/proc/{self.process.pid}/smaps_rollup").read_text()
+        return next(int(line.split()[1]) for line in text.splitlines() if line.startswith("Pss:"))
+
+
+def program_world(folder, more_settings=""):
+    """Home, temporary files and working folder of one run; returns environment and folder."""
+    home = folder / "home"
+    settings = home / "Documents/Corvane/Lumikey/lumikey.ini"
+    settings.parent.mkdir(parents=True)
+    settings.write_text(SETTINGS + more_settings)
+    branding = folder / "branding"
+    shutil.copytree(BUILD / "bin/branding", branding)
+    with open(branding / "lumikey_branding.ini", "a", encoding="utf-8") as file:
+        file.write("\n[settings]\nupdateserver=http://127.0.0.1:1\n")  # refuses at once
+    temporary = folder / "tmp"
+    temporary.mkdir()
+    return dict(os.environ, HOME=str(home), TMPDIR=str(temporary)), folder
+
+
+class Program(Process):
+    """Lumikey, settled after a while, with a folder of its own."""
+
+    def __init__(self):
+        self._folder = tempfile.TemporaryDirectory()
+        environment, cwd = program_world(pathlib.Path(self._folder.name))
+        super().__init__([BUILD / "bin/Lumikey"], environment, cwd)
+
+    def __exit__(self, *_):
+        super().__exit__()
+        self._remove_shared_memory()
+        self._folder.cleanup()
+
+    def _remove_shared_memory(self):
+        """A killed copy leaves its block behind; the next start would spend time on it."""
+        lines = pathlib.Path("/proc/sysvipc/shm").read_text().splitlines()
+        columns = lines[0].split()
+        for line in lines[1:]:
+            segment = dict(zip(columns, line.split()))
+            if int(segment["cpid"]) == self.process.pid:
+                subprocess.run(["ipcrm", "-m", segment["shmid"]], check=True)
+
+
+class Bare(Process):
+    """A yardstick: bareprogram (a Qt program) or bareserver (C)."""
+
+    def __init__(self, name="bareprogram"):
+        self.port = {"bareprogram": PROGRAM_PORT + 1, "bareserver": PROGRAM_PORT + 2}[name]
+        super().__init__([BUILD / "bench" / name, ADDRESS, str(self.port)])
+
+
+def answers(server, clients, milliseconds):
+    """What the load client tells of a server."""
+    command = [BUILD / "bench/loadclient", ADDRESS, str(server.port), str(clients),
+               str(milliseconds)]
+    result = subprocess.run(command, check=True, capture_output=True, text=True)
+    return json.loads(result.stdout)
+
+
+def inside(figure, number, in_memory=False):
+    """The rounds of a piece of work inside the program: pairs of numbers."""
+    environment = dict(os.environ, QT_QPA_PLATFORM="offscreen")
+    if in_memory and os.access("/dev/shm", os.W_OK):
+        environment["TMPDIR"] = "/dev/shm"
+    result = subprocess.run([BUILD / "bench/insidework", figure, str(number)], text=True,
+                            env=environment, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
+                            check=False)
+    if result.returncode != 0:
+        raise RuntimeError(f"{figure}: {result.stderr}")
+    return [tuple(float(word) for word in line.split()) for line in result.stdout.splitlines()]
+
+
+class Idle:
+    """Program and yardstick hidden, in pairs beside each other, each with a network and shared
+    memory of its own: they do next to nothing, so a minute serves for all of them."""
+
+    APART = ["unshare", "--net", "--ipc", "sh", "-c", 'ip link set lo up && exec "$@"', "idle"]
+
+    def __init__(self, pairs, seconds):
+        self._pairs, self._seconds = pairs, seconds
+
+    def percent_of_a_core(self):
+        started = []
+        with tempfile.TemporaryDirectory() as scratch:
+            try:
+                for number in range(self._pairs):
+                    folder = pathlib.Path(scratch) / str(number)
+                    environment, cwd = program_world(folder, IN_THE_TRAY)
+                    program = [BUILD / "bin/Lumikey"]
+                    bare = [BUILD / "bench/bareprogram", ADDRESS, str(PROGRAM_PORT), "hidden",
+                            "timer"]
+                    for command in (program, bare):
+                        started.append(self._start(command, environment, cwd))
+                time.sleep(IDLE_AFTER_SECONDS)
+                before = self._cpu(started)
+                time.sleep(self._seconds)
+                after = self._cpu(started)
+            finally:
+                for process in started:
+                    process.terminate()
+                    process.wait()
+        shares = [(end - begin) / self._seconds * 100 for begin, end in zip(before, after)]
+        return list(zip(shares[::2], shares[1::2]))
+
+    def _start(self, command, environment, cwd):
+        with open(cwd / f"{pathlib.Path(command[0]).name}.log", "wb") as log:
+            process = subprocess.Popen(self.APART + command, env=environment, cwd=cwd,
+                                       stdout=log, stderr=log)
+        process.log = pathlib.Path(log.name)
+        time.sleep(APART_SECONDS)  # a display turns programs away that come all at once
+        return process
+
+    @staticmethod
+    def _cpu(processes):
+        for process in processes:
+            if process.poll() is not None:
+                raise RuntimeError(f"{process.log.stem} ended with {process.returncode}: "
+                                   f"{process.log.read_text(errors='replace')}")
+        return [cpu_seconds(process.pid) for process in processes]
