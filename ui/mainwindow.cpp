@@ -31,8 +31,6 @@ MainWindow::MainWindow(AppSettings appSettings, Platform &system, PrimaryRole &r
     , eventFilterForResume(system)
 {
     ToggleAccessible::install();
-    // Before there is anything to look at: a style sheet that comes later looks all over again.
-    SetStyle();
     ui->setupUi(this);
     // The form's order of tabs is a circle that leaves the title buttons right behind the window
     // itself, where the first Tab would meet them. By way of another place they come to its end.
@@ -67,6 +65,7 @@ MainWindow::MainWindow(AppSettings appSettings, Platform &system, PrimaryRole &r
     LoadSettings();
     SetAppVersion();
     connectColourPicker();
+    SetStyle();
     DPIfixes();
     // Last, because the steps before may take their time: an agent finds the server or nobody.
     startServiceServer();

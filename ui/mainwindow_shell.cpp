@@ -78,7 +78,11 @@ void MainWindow::SetStyle()
         return;
     }
     if (sheet.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        qApp->setStyleSheet(QTextStream(&sheet).readAll());
+        const QString text = QTextStream(&sheet).readAll();
+        // Setting it once more would look at every widget of the finished form again.
+        if (qApp->styleSheet() != text) {
+            qApp->setStyleSheet(text);
+        }
     }
 }
 
