@@ -70,6 +70,7 @@ private slots:
     void autoDimStartsFiveSecondsLater();
     void badFiles_data();
     void badFiles();
+    void hugeGeometry();
 };
 
 void TestSettings::firstStart()
@@ -466,6 +467,18 @@ void TestSettings::badFiles()
     QVERIFY(world.get<QRadioButton>("backlight_off")->isChecked());
     QCOMPARE(world.get<QComboBox>("comboDimValue")->currentIndex(), 0);
     QCOMPARE(window.lightingState().leftWord, wordText(0xF0000000));
+}
+
+void TestSettings::hugeGeometry()
+{
+    // What saveGeometry() writes, with zeros over the middle and a size out of what was left.
+    TestWindow world;
+    world.writeSettings(R"(mainWindowGeometry="@ByteArray(\x1\xd9\xd0\xcb\0\x3\0\0\0\0\0d)"
+                        + QByteArray(44, '\0') + R"(\0\0\0\x64\0\0\x2\xd9\0\0\x2\xd9)") " + "\n ");
+        const QSize size = world.construct().size();
+    const QSize screens = QGuiApplication::primaryScreen()->virtualSize();
+    QVERIFY2(size == size.boundedTo(screens),
+             qPrintable(QStringLiteral("%1 x %2").arg(size.width()).arg(size.height())));
 }
 
 QTEST_MAIN(TestSettings)

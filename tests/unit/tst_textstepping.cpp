@@ -108,6 +108,7 @@ void TestTextStepping::stepText_data()
     QTest::newRow("black") << "1 2 3 4" << cmyk << 3 << 1 << "1 2 3 5" << 7;
     QTest::newRow("too many parts") << "1 2 3 4" << rgb << 0 << 1 << "" << 0;
     QTest::newRow("too high") << "256 0 0" << rgb << 0 << -1 << "" << 0;
+    QTest::newRow("no such part") << "1 2 3" << rgb << 3 << 1 << "" << 0;
     QTest::newRow("HEX text under HSV") << "ff0000" << hsv << 0 << 1 << "" << 0;
     QTest::newRow("empty") << "" << hsv << 0 << 1 << "" << 0;
     QTest::newRow("short HEX up") << "0e0" << hex << 1 << 1 << "0f0" << 5;
