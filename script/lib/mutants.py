@@ -42,11 +42,11 @@ def read_list(name):
         new.clear()
 
     for number, line in enumerate(pathlib.Path(name).read_text().splitlines() + [""], 1):
-        if line.startswith("- "):
+        if line == "-" or line.startswith("- "):
             if new:
                 finish(number - 1)
             old.append(line[2:])
-        elif line.startswith("+"):
+        elif line == "+" or line.startswith("+ "):
             new.append(line[2:])
         elif line.startswith("@ "):
             finish(number - 1)

@@ -473,9 +473,10 @@ void TestSettings::hugeGeometry()
 {
     // What saveGeometry() writes, with zeros over the middle and a size out of what was left.
     TestWindow world;
-    world.writeSettings(R"(mainWindowGeometry="@ByteArray(\x1\xd9\xd0\xcb\0\x3\0\0\0\0\0d)"
-                        + QByteArray(44, '\0') + R"(\0\0\0\x64\0\0\x2\xd9\0\0\x2\xd9)") " + "\n ");
-        const QSize size = world.construct().size();
+    world.writeSettings(QByteArray(R"ini(mainWindowGeometry="@ByteArray()ini")
+                        + R"ini(\x1\xd9\xd0\xcb\0\x3\0\0\0\0\0d)ini" + QByteArray(44, '\0')
+                        + R"ini(\0\0\0\x64\0\0\x2\xd9\0\0\x2\xd9)")ini" + '\n');
+    const QSize size = world.construct().size();
     const QSize screens = QGuiApplication::primaryScreen()->virtualSize();
     QVERIFY2(size == size.boundedTo(screens),
              qPrintable(QStringLiteral("%1 x %2").arg(size.width()).arg(size.height())));
