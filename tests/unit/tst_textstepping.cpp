@@ -64,6 +64,8 @@ void TestTextStepping::decimalComponentAt_data()
                                   << ", " << 1 << 0;
     QTest::newRow("in its middle") << "1, 2, 3"
                                    << ", " << 2 << 1;
+    QTest::newRow("separators do not overlap") << "1---2"
+                                               << "--" << 5 << 1;
     QTest::newRow("no separator") << "123"
                                   << "" << 2 << 0;
 }
