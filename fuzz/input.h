@@ -16,9 +16,9 @@ public:
 
     quint8 takeByte()
     {
-        const quint8 byte = bytes.isEmpty() ? quint8{0} : static_cast<quint8>(bytes.at(0));
+        const quint8 first = bytes.isEmpty() ? quint8{0} : static_cast<quint8>(bytes.at(0));
         bytes.remove(0, 1);
-        return byte;
+        return first;
     }
 
     /// Four bytes, the first one highest.
