@@ -47,9 +47,9 @@ std::size_t keyCode(quint32 key)
 
 } // namespace
 
-void X11KeyPresses::Disconnect::operator()(xcb_connection_t *connection) const
+void X11KeyPresses::Disconnect::operator()(xcb_connection_t *opened) const
 {
-    xcb_disconnect(connection);
+    xcb_disconnect(opened);
 }
 
 X11KeyPresses::X11KeyPresses()

@@ -24,7 +24,7 @@ public:
 private:
     struct Disconnect
     {
-        void operator()(xcb_connection_t *connection) const;
+        void operator()(xcb_connection_t *opened) const;
     };
 
     /// Asks for the raw events; false when the display does not have them.

@@ -14,9 +14,9 @@ QString pictureFile(KeyboardPicture picture)
     case KeyboardPicture::Full:
         return QStringLiteral("branding/keyboard_full.png");
     case KeyboardPicture::Stripe:
-        return QStringLiteral("branding/stripe_lidled.png");
+        break;
     }
-    return {};
+    return QStringLiteral("branding/stripe_lidled.png");
 }
 
 QColor tintColour(const ColourComponents &components, int alpha)

@@ -64,10 +64,13 @@ void MainWindow::restoreWindowGeometry()
     const bool restored =
         restoreGeometry(settings.readSetting(SettingKeys::mainWindowGeometry).toByteArray());
     restoreState(settings.readSetting(SettingKeys::mainWindowState).toByteArray(), 0);
+    const QScreen &screen = *QGuiApplication::primaryScreen();
     if (!restored) { // none stored, or none that can be read
         setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, firstWindowSize,
-                                        QGuiApplication::primaryScreen()->availableGeometry()));
+                                        screen.availableGeometry()));
     }
+    // A damaged one can be read and still be thousands of screens wide.
+    resize(size().boundedTo(screen.virtualSize()));
 }
 
 void MainWindow::delayedApply()

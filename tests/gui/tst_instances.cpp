@@ -28,6 +28,8 @@ private slots:
     void aForeignPrimaryKeepsOthersOut();
     void unreachablePrimary();
     void lockLeftTaken();
+    void startsComeOneByOne();
+    void endsComeOneByOne();
     void tooSmallABlock();
     void handOverAndTakeBack();
     void takeBackTooLate();
@@ -171,6 +173,34 @@ void TestInstances::lockLeftTaken()
     QTRY_COMPARE(started->count(), 1);
 }
 
+void TestInstances::startsComeOneByOne()
+{
+    FakePlatform platform;
+    auto lock = platform.acquireLock(ownName(QStringLiteral("slow"), SingleApplication::PerUser),
+                                     timeoutMs);
+    QVERIFY(lock);
+    OtherCopy copy(QStringLiteral("slow"), false, SingleApplication::PerUser);
+    QTest::qWait(1000);
+    QVERIFY(!copy.says("runs"));
+    lock.reset();
+    QVERIFY(copy.stays());
+}
+
+void TestInstances::endsComeOneByOne()
+{
+    const QString slow = ownName(QStringLiteral("slow"), SingleApplication::PerUser);
+    OtherCopy copy(QStringLiteral("slow"), false, SingleApplication::PerUser);
+    QVERIFY(copy.stays());
+    FakePlatform platform;
+    auto lock = platform.acquireLock(slow, timeoutMs);
+    QVERIFY(lock);
+    copy.process.write("end\n");
+    QVERIFY(!copy.process.waitForFinished(1000));
+    QVERIFY(readBlock(slow)->primaryRunning);
+    lock.reset();
+    QVERIFY(copy.process.waitForFinished());
+}
+
 void TestInstances::tooSmallABlock()
 {
     QSharedMemory memory(ownName(QStringLiteral("small"), SingleApplication::PerUser));
@@ -203,6 +233,7 @@ void TestInstances::takeBackTooLate()
     QVERIFY(next.stays());
     application.takeBack();
     QCOMPARE(readBlock(name)->primaryProcessId, next.process.processId());
+    QCOMPARE(readBlock(name)->secondaryCount, 0U);
     OtherCopy copy(QStringLiteral("guarded"), false, SingleApplication::PerUser);
     QVERIFY(copy.leaves());
     QTRY_VERIFY(next.says("started"));

@@ -70,6 +70,7 @@ private slots:
     void autoDimStartsFiveSecondsLater();
     void badFiles_data();
     void badFiles();
+    void hugeGeometry();
 };
 
 void TestSettings::firstStart()
@@ -466,6 +467,20 @@ void TestSettings::badFiles()
     QVERIFY(world.get<QRadioButton>("backlight_off")->isChecked());
     QCOMPARE(world.get<QComboBox>("comboDimValue")->currentIndex(), 0);
     QCOMPARE(window.lightingState().leftWord, wordText(0xF0000000));
+}
+
+void TestSettings::hugeGeometry()
+{
+    // What saveGeometry() writes, with zeros over the middle and a size out of what was left.
+    TestWindow world;
+    world.writeSettings(QByteArray(R"ini(mainWindowGeometry="@ByteArray()ini")
+                        + R"ini(\x1\xd9\xd0\xcb\0\x3\0\0\0\0\0d)ini" + QByteArray(44, '\0')
+                        + R"ini(\0\0\0\x64\0\0\x2\xd9\0\0\x2\xd9)")ini" + '\n');
+    const MainWindow &window = world.construct();
+    const QSize screens = QGuiApplication::primaryScreen()->virtualSize();
+    const QSize most = screens.expandedTo(window.minimumSize());
+    QVERIFY2(window.size() == window.size().boundedTo(most),
+             qPrintable(QStringLiteral("width %1").arg(window.width())));
 }
 
 QTEST_MAIN(TestSettings)

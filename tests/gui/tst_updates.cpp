@@ -1,13 +1,7 @@
-#include "tests/support/boxwatcher.h"
-#include "tests/support/testwindow.h"
-#include "tests/support/versionserver.h"
+#include "updateworld.h"
 
 #include <QElapsedTimer>
-#include <QHostAddress>
-#include <QLabel>
-#include <QPushButton>
 #include <QTabWidget>
-#include <QTcpSocket>
 #include <QTest>
 
 namespace {
@@ -24,29 +18,6 @@ const QString updateQuestion =
 const QString rightsQuestion = QStringLiteral(
     "There is an update for this software! But to be able to update we need Admin access. Do you "
     "want to run this app with admin access so that we can update it automatically?");
-
-/// A window whose update server answers as told.
-class UpdateWorld : public TestWindow
-{
-public:
-    explicit UpdateWorld(const QByteArray &latest)
-    {
-        server.answerWith(latest);
-        writeBranding({}, server.address());
-    }
-
-    QString label(const char *name) const { return get<QLabel>(name)->text(); }
-    QPushButton *updateButton() const { return get<QPushButton>("Button_Update"); }
-    void checkByHand() const { get<QPushButton>("Button_CheckforUpdate")->click(); }
-    QString pending() const
-    {
-        return QSettings(settings.workIni(), QSettings::IniFormat)
-            .value(QStringLiteral("workqueue/Lumikey"), QStringLiteral("(none)"))
-            .toString();
-    }
-
-    VersionServer server;
-};
 
 bool isWithinTheScreen(const QWidget &window)
 {
@@ -75,19 +46,12 @@ private slots:
     void manualStaysSetAfterAnUpdate();
     void manualIsClearedWithoutAnUpdate();
     void updateButton();
-    void buttonIsDisabledWhileWaiting();
     void fetchAlone();
     void serverIsReadAtEachCheck();
     void versionsThatAreNotVersions_data();
     void versionsThatAreNotVersions();
     void junkLeavesTheWindowAlone_data();
     void junkLeavesTheWindowAlone();
-    void serviceServerWaitsForTheFirstCheck();
-    void servedWhileWaiting();
-    void pressedTwice();
-    void closedWhileWaiting();
-    void closedWhileConstructing();
-    void closedWhileAsking();
 };
 
 void TestUpdates::initTestCase()
@@ -300,21 +264,6 @@ void TestUpdates::updateButton()
     QCOMPARE(world.platform.launched, QStringList{QStringLiteral("updates\\Update.exe")});
 }
 
-void TestUpdates::buttonIsDisabledWhileWaiting()
-{
-    UpdateWorld world("1.0.5");
-    const BoxWatcher watcher(QMessageBox::No);
-    MainWindow &window = world.start();
-    QVERIFY(world.updateButton()->isEnabled());
-    world.server.pieceBytes = 10;
-    world.server.pauseMs = 50;
-    bool enabled = true;
-    QTimer::singleShot(50, &window, [&] { enabled = world.updateButton()->isEnabled(); });
-    window.SetAppVersion();
-    QVERIFY(!enabled);
-    QVERIFY(world.updateButton()->isEnabled());
-}
-
 void TestUpdates::fetchAlone()
 {
     UpdateWorld world("1.0.4");
@@ -400,119 +349,6 @@ void TestUpdates::junkLeavesTheWindowAlone()
     timer.start();
     window.grab();
     QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
-}
-
-void TestUpdates::serviceServerWaitsForTheFirstCheck()
-{
-    UpdateWorld world("1.0.4");
-    world.server.pieceBytes = 10;
-    world.server.pauseMs = 30;
-    bool isThere = true;
-    QTimer::singleShot(100, [&] {
-        QTcpSocket client;
-        client.connectToHost(QHostAddress(QStringLiteral("127.0.0.9")), 52316);
-        isThere = client.waitForConnected(500);
-    });
-    world.construct();
-    QVERIFY(!isThere);
-    QTcpSocket client;
-    client.connectToHost(QHostAddress(QStringLiteral("127.0.0.9")), 52316);
-    QVERIFY(client.waitForConnected(5000));
-}
-
-void TestUpdates::servedWhileWaiting()
-{
-    UpdateWorld world("1.0.4");
-    MainWindow &window = world.start();
-    world.server.pieceBytes = 1;
-    world.server.pauseMs = 10;
-    QTcpSocket agent;
-    QTimer::singleShot(
-        50, &agent, [&] { agent.connectToHost(QHostAddress(QStringLiteral("127.0.0.9")), 52316); });
-    window.SetAppVersion();
-    QVERIFY(agent.bytesAvailable() > 6);
-}
-
-void TestUpdates::pressedTwice()
-{
-    UpdateWorld world("1.0.4");
-    MainWindow &window = world.start();
-    world.server.requests.clear();
-    world.server.pieceBytes = 10;
-    world.server.pauseMs = 30;
-    const BoxWatcher watcher(QMessageBox::Ok);
-    // While an unasked check waits, the user asks twice.
-    QTimer::singleShot(30, &window, [&] { world.checkByHand(); });
-    QTimer::singleShot(60, &window, [&] { world.checkByHand(); });
-    window.SetAppVersion();
-    QTest::qWait(100);
-    QCOMPARE(world.server.requests.size(), 1);
-    QCOMPARE(watcher.seen.size(), 1); // and is told once
-    QCOMPARE(world.label("Label_SoftwareServerVersion"), QStringLiteral("Latest: 1.0.4"));
-}
-
-void TestUpdates::closedWhileWaiting()
-{
-    UpdateWorld world("1.0.4");
-    MainWindow &window = world.start();
-    window.show();
-    world.server.answer.clear();
-    world.server.then = VersionServer::Then::KeepOpen;
-    const BoxWatcher watcher(QMessageBox::Ok);
-    QTimer::singleShot(100, &window, SLOT(close()));
-    QTimer::singleShot(0, &window, [&] { world.checkByHand(); });
-    QTimer::singleShot(10000, qApp, [] { QCoreApplication::exit(99); });
-    QCOMPARE(QCoreApplication::exec(), 0);
-    QCOMPARE(watcher.seen.size(), 0);
-    // Given up, not answered: what the check before has found stays.
-    QCOMPARE(world.label("Label_SoftwareServerVersion"), QStringLiteral("Latest: 1.0.4"));
-    QCOMPARE(world.label("Label_SoftwareVersion_desc"), latestText);
-}
-
-void TestUpdates::closedWhileConstructing()
-{
-    UpdateWorld world("");
-    world.server.answer.clear();
-    world.server.then = VersionServer::Then::KeepOpen;
-    const auto exitFromTheTray = [] {
-        const auto windows = QApplication::topLevelWidgets();
-        for (QWidget *candidate : windows) {
-            if (auto *const window = qobject_cast<MainWindow *>(candidate)) {
-                window->close();
-            }
-        }
-    };
-    QTimer::singleShot(200, qApp, exitFromTheTray);
-    MainWindow &window = world.construct(); // returns
-    QCOMPARE(world.pending(), QStringLiteral("(none)"));
-    // As the program goes on from here.
-    QObject::connect(qApp, SIGNAL(aboutToQuit()), &window, SLOT(ShutdownQuit()));
-    window.show();
-    QVERIFY(window.testAttribute(Qt::WA_DontShowOnScreen));
-    QTimer watchdog;
-    QObject::connect(&watchdog, &QTimer::timeout, [] { QCoreApplication::exit(99); });
-    watchdog.start(5000);
-    QCOMPARE(QCoreApplication::exec(), 0);
-    QVERIFY(world.stored(SettingKeys::mainWindowGeometry) != QStringLiteral("(none)"));
-}
-
-void TestUpdates::closedWhileAsking()
-{
-    UpdateWorld world("1.0.5");
-    const auto exitFromTheTray = [] {
-        if (QWidget *const box = QApplication::activeModalWidget()) {
-            box->parentWidget()->close();
-        }
-    };
-    QTimer::singleShot(500, qApp, exitFromTheTray);
-    MainWindow &window = world.construct(); // returns although nobody answers
-    QVERIFY(!window.isVisible());
-    QCOMPARE(world.platform.relaunches, 0);
-    QTimer watchdog;
-    QObject::connect(&watchdog, &QTimer::timeout, [] { QCoreApplication::exit(99); });
-    watchdog.start(5000);
-    window.show();
-    QCOMPARE(QCoreApplication::exec(), 0);
 }
 
 QTEST_MAIN(TestUpdates)

@@ -269,6 +269,8 @@ void TestColorTexts::rgbTextFromColor_data()
     QTest::newRow("from HSV") << QColor::fromHsv(240, 255, 255) << "0 0 255";
     QTest::newRow("transparent") << QColor(1, 2, 3, 0) << "1 2 3";
     QTest::newRow("invalid") << QColor() << "0 0 0";
+    // Such colours hold channels beyond the range.
+    QTest::newRow("too bright") << QColor::fromRgbF(2.0, -1.0, 0.0) << "255 0 0";
 }
 
 void TestColorTexts::rgbTextFromColor()

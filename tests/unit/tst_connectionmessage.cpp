@@ -81,6 +81,8 @@ void TestConnectionMessage::decode_data()
     QTest::newRow("empty name") << QByteArray("000000000100000000baa3") << invalid;
     QTest::newRow("checksum missing") << QByteArray("000000046e616d650100000000") << invalid;
     QTest::newRow("one byte missing") << QByteArray("000000046e616d650100000000f5") << invalid;
+    QTest::newRow("fields missing, right checksum")
+        << QByteArray("000000046e616d6527d2") << invalid;
     QTest::newRow("one byte too many") << QByteArray("000000046e616d650100000000f5fe00") << invalid;
     QTest::newRow("huge length") << QByteArray("fffffffe6e616d650100000000f5fe") << invalid;
     QTest::newRow("length of nothing") << QByteArray("ffffffff6e616d650100000000f5fe") << invalid;

@@ -11,6 +11,8 @@ constexpr const char *resumed = "resumed"; // what the platform in hand takes fo
 
 /// Longer than repetitions of one resume are apart.
 constexpr int later = 700;
+/// Shorter than that.
+constexpr int soon = 300;
 
 } // namespace
 
@@ -25,6 +27,7 @@ private slots:
     void noticeWithoutMessage();
     void oneResumeIsOneSettlingTime();
     void waitingMessagesAreOfTheSameResume();
+    void lateNoticesAreOfTheSameResume();
     void aLaterResumeIsANewOne();
     void deliveredFromWithin();
     void noticesEndWithTheFilter();
@@ -103,6 +106,17 @@ void TestMyEventFilter::waitingMessagesAreOfTheSameResume()
     };
     QVERIFY(filterMessage(resumed));
     QTest::qWait(2 * later);
+    QCOMPARE(platform.sleeps.size(), 10);
+    QCOMPARE(awake->count(), 1);
+}
+
+void TestMyEventFilter::lateNoticesAreOfTheSameResume()
+{
+    // Each within half a second of the one before, though not of the first.
+    for (int notice = 0; notice < 4; ++notice) {
+        QVERIFY(filterMessage(resumed));
+        QTest::qWait(soon);
+    }
     QCOMPARE(platform.sleeps.size(), 10);
     QCOMPARE(awake->count(), 1);
 }

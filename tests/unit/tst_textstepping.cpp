@@ -64,6 +64,8 @@ void TestTextStepping::decimalComponentAt_data()
                                   << ", " << 1 << 0;
     QTest::newRow("in its middle") << "1, 2, 3"
                                    << ", " << 2 << 1;
+    QTest::newRow("separators do not overlap") << "1---2"
+                                               << "--" << 5 << 1;
     QTest::newRow("no separator") << "123"
                                   << "" << 2 << 0;
 }
@@ -108,6 +110,7 @@ void TestTextStepping::stepText_data()
     QTest::newRow("black") << "1 2 3 4" << cmyk << 3 << 1 << "1 2 3 5" << 7;
     QTest::newRow("too many parts") << "1 2 3 4" << rgb << 0 << 1 << "" << 0;
     QTest::newRow("too high") << "256 0 0" << rgb << 0 << -1 << "" << 0;
+    QTest::newRow("no such part") << "1 2 3" << rgb << 3 << 1 << "" << 0;
     QTest::newRow("HEX text under HSV") << "ff0000" << hsv << 0 << 1 << "" << 0;
     QTest::newRow("empty") << "" << hsv << 0 << 1 << "" << 0;
     QTest::newRow("short HEX up") << "0e0" << hex << 1 << 1 << "0f0" << 5;
