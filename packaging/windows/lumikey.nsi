@@ -154,7 +154,8 @@ FunctionEnd
     !endif
 !macroend
 
-; Leaves on the stack why $INSTDIR is no place for the program, "" when it is one.
+; Leaves on the stack why $INSTDIR is no place for the program, "" when it is one. Whole drives need
+; no check: NSIS takes none.
 Function CheckFolder
     Push $0
     Push $1
@@ -166,10 +167,6 @@ Function CheckFolder
     StrCpy $1 $INSTDIR $1
     ${If} $1 == $WINDIR
         StrCpy $0 "$INSTDIR belongs to Windows. Please choose another folder."
-    ${EndIf}
-    StrLen $1 $INSTDIR
-    ${If} $1 <= 3
-        StrCpy $0 "$INSTDIR is no folder but a whole drive. Please choose a folder."
     ${EndIf}
     Pop $1
     Exch $0
@@ -194,6 +191,23 @@ FunctionEnd
     SetOverwrite on
 !macroend
 
+; Leaves on the stack the first folder on the way to $INSTDIR that is not there yet.
+Function FirstNewFolder
+    Push $0
+    Push $1
+    StrCpy $0 $INSTDIR
+    ${Do}
+        ${GetParent} $0 $1
+        ${If} $1 == ""
+        ${OrIf} ${FileExists} "$1\*.*"
+            ${ExitDo}
+        ${EndIf}
+        StrCpy $0 $1
+    ${Loop}
+    Pop $1
+    Exch $0
+FunctionEnd
+
 Section
     Call EndProgram
     Pop $0
@@ -205,6 +219,10 @@ Section
     ${If} $InstalledFolder != ""
         DetailPrint "Removing the version before"
         ExecWait '"$INSTDIR\Uninstall.exe" /S /UPGRADE _?=$INSTDIR'
+    ${Else}
+        Call FirstNewFolder
+        Pop $0
+        WriteRegStr HKLM "${UNINSTALL_KEY}" FirstNewFolder "$0"
     ${EndIf}
 
     !insertmacro EachFile LayDown
@@ -262,6 +280,20 @@ FunctionEnd
     RMDir "$INSTDIR\${FOLDER}"
 !macroend
 
+; Takes away the folder and those above it that the installation made, where they are empty now.
+Function un.RemoveFolders
+    ReadRegStr $0 HKLM "${UNINSTALL_KEY}" FirstNewFolder
+    GetFullPathName $1 "$INSTDIR"
+    ${Do}
+        RMDir "$1"
+        ${If} $1 == $0
+        ${OrIf} $1 == ""
+            ${ExitDo}
+        ${EndIf}
+        ${GetParent} $1 $1
+    ${Loop}
+FunctionEnd
+
 ; Takes away the autostart entry of everybody who is signed in, where it names a program that is
 ; gone. Entries of other copies stay.
 Function un.RemoveAutostart
@@ -318,7 +350,7 @@ Section Uninstall
     !insertmacro EachFolder TakeFolderAway
     Delete "$SMPROGRAMS\${NAME}.lnk"
     Delete "$INSTDIR\Uninstall.exe"
-    RMDir "$INSTDIR"
+    Call un.RemoveFolders
     DeleteRegKey HKLM "${UNINSTALL_KEY}"
     Call un.RemoveAutostart
     Call un.OfferToRemoveSettings

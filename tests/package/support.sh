@@ -159,7 +159,7 @@ is_shown() { [ -n "$(window "$1")" ]; }
 
 # Waits for a window and gives what it shows time to be painted.
 await_window() {
-    check "a window is shown: $1" within 30 is_shown "$1"
+    within 30 is_shown "$1" || { picture missing; fail "no window is shown: $1"; }
     sleep 1
 }
 

@@ -17,12 +17,12 @@ if errorlevel 1 goto failed
 exit /b 0
 
 :none
-start "Lumikey per-key application" "%ComSpec%" /c ""%~f0" /tell none"
+start "Lumikey per-key application" "%ComSpec%" /c %~nx0 /tell none
 call :none_text
 exit /b 2
 
 :failed
-start "Lumikey per-key application" "%ComSpec%" /c ""%~f0" /tell failed"
+start "Lumikey per-key application" "%ComSpec%" /c %~nx0 /tell failed
 call :failed_text
 exit /b 1
 
@@ -33,14 +33,17 @@ pause
 exit /b 0
 
 :none_text
-echo The per-key application was not installed: no application package lies in the folder
+echo The per-key application was not installed: no application package lies in
+echo the folder
 echo   "%~dp0"
-echo The keyboard's vendor supplies it, a file that ends in .msixbundle, .appxbundle, .msix or
-echo .appx. Put it into that folder, then uncheck and check the per-key application in Lumikey.
+echo The keyboard's vendor supplies it, a file that ends in .msixbundle,
+echo .appxbundle, .msix or .appx. Put it into that folder, then uncheck and check
+echo the per-key application in Lumikey.
 exit /b 0
 
 :failed_text
-echo The per-key application was not installed: Windows refused the package in the folder
+echo The per-key application was not installed: Windows refused the package in
+echo the folder
 echo   "%~dp0"
 echo Open the package by a double click there to see why.
 exit /b 0
