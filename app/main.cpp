@@ -45,7 +45,7 @@ void setIdentity()
     QCoreApplication::setOrganizationDomain(QStringLiteral("TARVENWORKS"));
     QCoreApplication::setOrganizationName(QStringLiteral("TARVENWORKS"));
     QCoreApplication::setApplicationName(QStringLiteral("Lumikey"));
-    QCoreApplication::setApplicationVersion(QStringLiteral("1.0.4"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(LUMIKEY_VERSION));
 }
 
 } // namespace

@@ -63,6 +63,16 @@ build() {
     cmake --build --preset "$preset" "${targets[@]}"
 }
 
+# fix_dates: gives everything that is made from these sources the date of their last change, so
+# that the same sources make the same files.
+fix_dates() {
+    if [ -z "${SOURCE_DATE_EPOCH:-}" ]; then
+        SOURCE_DATE_EPOCH=$(git -C "$root" log -1 --format=%ct) \
+            || fail "the date of the sources is unknown: set SOURCE_DATE_EPOCH"
+    fi
+    export SOURCE_DATE_EPOCH
+}
+
 children=()
 scratch=
 

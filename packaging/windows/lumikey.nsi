@@ -1,0 +1,361 @@
+; The installer. script/package compiles it and hands in:
+;   VERSION, SIZE_KB   of the program, and what its files take
+;   DIST               the folder that is laid down
+;   PICTURES           the folder of side.bmp and header.bmp
+;   SOURCES, ICON      the folder of this file, and the program's icon
+;   FILES              the list of DIST's files and folders, as macros
+;   COMPRESSOR, OUTPUT how to pack, and the installer's own file
+;
+; Exit codes: 0 done, 1 given up by the user, 2 failed, 3 a newer version is installed, 4 the folder
+; is refused, 5 the running program could not be ended, 6 rights are missing.
+
+Unicode true
+Target amd64-unicode
+SetCompressor ${COMPRESSOR}
+SetDateSave on
+RequestExecutionLevel admin
+ManifestDPIAware true
+ManifestSupportedOS all
+
+!include MUI2.nsh
+!include FileFunc.nsh
+!include LogicLib.nsh
+!include WordFunc.nsh
+!include "${FILES}"
+!include "${SOURCES}/running.nsh"
+
+!define NAME Lumikey
+!define PUBLISHER TARVENWORKS
+!define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\${NAME}"
+!define RUN_KEY "Software\Microsoft\Windows\CurrentVersion\Run"
+!define DEFAULT_FOLDER "$PROGRAMFILES64\${NAME}"
+
+!define EXIT_FAILED 2
+!define EXIT_NEWER 3
+!define EXIT_FOLDER 4
+!define EXIT_RUNNING 5
+!define EXIT_RIGHTS 6
+
+Name "${NAME}"
+OutFile "${OUTPUT}"
+InstallDir "${DEFAULT_FOLDER}"
+BrandingText "${NAME} ${VERSION}"
+ShowInstDetails nevershow
+ShowUninstDetails nevershow
+VIProductVersion "${VERSION}.0"
+VIFileVersion "${VERSION}.0"
+VIAddVersionKey ProductName "${NAME}"
+VIAddVersionKey ProductVersion "${VERSION}"
+VIAddVersionKey FileVersion "${VERSION}"
+VIAddVersionKey FileDescription "${NAME} ${VERSION} setup"
+VIAddVersionKey CompanyName "${PUBLISHER}"
+VIAddVersionKey LegalCopyright "${PUBLISHER}"
+
+Var InstalledFolder  ; of the version that is there, "" when there is none
+Var WelcomeText
+Var IsUpgrade        ; in the uninstaller: 1 when the installer calls it to make room
+
+!define MUI_ICON "${ICON}"
+!define MUI_UNICON "${ICON}"
+!define MUI_ABORTWARNING
+!define MUI_HEADERIMAGE
+!define MUI_HEADERIMAGE_RIGHT
+!define MUI_HEADERIMAGE_BITMAP "${PICTURES}/header.bmp"
+!define MUI_HEADERIMAGE_BITMAP_STRETCH AspectFitHeight
+!define MUI_HEADERIMAGE_UNBITMAP "${PICTURES}/header.bmp"
+!define MUI_HEADERIMAGE_UNBITMAP_STRETCH AspectFitHeight
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${PICTURES}/side.bmp"
+!define MUI_WELCOMEFINISHPAGE_BITMAP_STRETCH AspectFitHeight
+
+!define MUI_WELCOMEPAGE_TITLE "${NAME} ${VERSION}"
+!define MUI_WELCOMEPAGE_TEXT "$WelcomeText"
+!insertmacro MUI_PAGE_WELCOME
+!define MUI_PAGE_CUSTOMFUNCTION_PRE SkipFolderPageOfUpgrade
+!define MUI_PAGE_CUSTOMFUNCTION_LEAVE CheckChosenFolder
+!insertmacro MUI_PAGE_DIRECTORY
+!insertmacro MUI_PAGE_INSTFILES
+!define MUI_FINISHPAGE_RUN
+!define MUI_FINISHPAGE_RUN_TEXT "Start ${NAME}"
+!define MUI_FINISHPAGE_RUN_FUNCTION StartProgram
+!insertmacro MUI_PAGE_FINISH
+!insertmacro MUI_UNPAGE_CONFIRM
+!insertmacro MUI_UNPAGE_INSTFILES
+!insertmacro MUI_LANGUAGE English
+
+!insertmacro EndRunningProgram ""
+!insertmacro EndRunningProgram "un."
+
+; Tells why it cannot go on, when there is somebody to tell, and ends.
+!macro Refuse CODE TEXT
+    MessageBox MB_OK|MB_ICONSTOP "${TEXT}" /SD IDOK
+    SetErrorLevel ${CODE}
+    Quit
+!macroend
+
+!macro CommonStart
+    SetRegView 64
+    SetShellVarContext all
+    UserInfo::GetAccountType
+    Pop $0
+    ${If} $0 != "Admin"
+        !insertmacro Refuse ${EXIT_RIGHTS} "${NAME} is installed and removed by administrators."
+    ${EndIf}
+!macroend
+
+; --- installing ----------------------------------------------------------------------------------
+
+Function .onInit
+    !insertmacro CommonStart
+    StrCpy $WelcomeText "This puts ${NAME} on this computer, for everybody who uses it.$\r$\n$\r$\n\
+        ${NAME} lights the keyboard of your laptop: colours, effects and brightness."
+    ReadRegStr $InstalledFolder HKLM "${UNINSTALL_KEY}" InstallLocation
+    ${If} $InstalledFolder == ""
+    ${OrIfNot} ${FileExists} "$InstalledFolder\Uninstall.exe"
+        StrCpy $InstalledFolder ""
+        ${If} ${Silent}
+            Call CheckFolder
+            Pop $0
+            ${If} $0 != ""
+                !insertmacro Refuse ${EXIT_FOLDER} "$0"
+            ${EndIf}
+        ${EndIf}
+        Return
+    ${EndIf}
+
+    ReadRegStr $0 HKLM "${UNINSTALL_KEY}" DisplayVersion
+    ${VersionCompare} "$0" "${VERSION}" $1
+    ${If} $1 = 1
+        !insertmacro Refuse ${EXIT_NEWER} "${NAME} $0 is installed, which is newer than \
+            ${VERSION}.$\r$\n$\r$\nTo go back to ${VERSION}, remove ${NAME} $0 first. Your settings \
+            can stay."
+    ${EndIf}
+    ${If} $INSTDIR != "${DEFAULT_FOLDER}"
+    ${AndIf} $INSTDIR != $InstalledFolder
+        !insertmacro Refuse ${EXIT_FOLDER} "${NAME} is installed in $InstalledFolder and is renewed \
+            there.$\r$\n$\r$\nTo have it in another folder, remove it first."
+    ${EndIf}
+    StrCpy $INSTDIR $InstalledFolder
+    StrCpy $WelcomeText "${NAME} $0 is installed in $INSTDIR. This makes it ${NAME} ${VERSION}.\
+        $\r$\n$\r$\nIf ${NAME} is running, it is closed. Your settings stay as they are."
+FunctionEnd
+
+; A version that is there is renewed where it is.
+Function SkipFolderPageOfUpgrade
+    ${If} $InstalledFolder != ""
+        Abort
+    ${EndIf}
+FunctionEnd
+
+!macro NoticeStranger FOLDER PATH SOURCE
+    !if "${FOLDER}" == ""
+        ${If} ${FileExists} "$INSTDIR\${PATH}"
+            StrCpy $0 "$INSTDIR holds another program, which ${NAME} would damage: ${PATH}."
+        ${EndIf}
+    !endif
+!macroend
+
+; Leaves on the stack why $INSTDIR is no place for the program, "" when it is one. Whole drives need
+; no check: NSIS takes none.
+Function CheckFolder
+    Push $0
+    Push $1
+    StrCpy $0 ""
+    ${IfNot} ${FileExists} "$INSTDIR\${NAME}.exe"
+        !insertmacro EachFile NoticeStranger
+    ${EndIf}
+    StrLen $1 $WINDIR
+    StrCpy $1 $INSTDIR $1
+    ${If} $1 == $WINDIR
+        StrCpy $0 "$INSTDIR belongs to Windows. Please choose another folder."
+    ${EndIf}
+    Pop $1
+    Exch $0
+FunctionEnd
+
+Function CheckChosenFolder
+    Call CheckFolder
+    Pop $0
+    ${If} $0 != ""
+        MessageBox MB_OK|MB_ICONEXCLAMATION "$0"
+        Abort
+    ${EndIf}
+FunctionEnd
+
+; What a vendor has made of the branding outlives an upgrade.
+!macro LayDown FOLDER PATH SOURCE
+    SetOutPath "$INSTDIR\${FOLDER}"
+    !if "${FOLDER}" == "branding"
+        SetOverwrite off
+    !endif
+    File "${DIST}/${SOURCE}"
+    SetOverwrite on
+!macroend
+
+; Leaves on the stack the first folder on the way to $INSTDIR that is not there yet.
+Function FirstNewFolder
+    Push $0
+    Push $1
+    StrCpy $0 $INSTDIR
+    ${Do}
+        ${GetParent} $0 $1
+        ${If} $1 == ""
+        ${OrIf} ${FileExists} "$1\*.*"
+            ${ExitDo}
+        ${EndIf}
+        StrCpy $0 $1
+    ${Loop}
+    Pop $1
+    Exch $0
+FunctionEnd
+
+Section
+    Call EndProgram
+    Pop $0
+    ${If} $0 != 0
+        !insertmacro Refuse ${EXIT_RUNNING} "${NAME} is running and could not be ended."
+    ${EndIf}
+
+    ; Each version knows its own files, and this one's may be others.
+    ${If} $InstalledFolder != ""
+        DetailPrint "Removing the version before"
+        ExecWait '"$INSTDIR\Uninstall.exe" /S /UPGRADE _?=$INSTDIR'
+    ${Else}
+        Call FirstNewFolder
+        Pop $0
+        WriteRegStr HKLM "${UNINSTALL_KEY}" FirstNewFolder "$0"
+    ${EndIf}
+
+    !insertmacro EachFile LayDown
+    SetOutPath "$INSTDIR"
+    WriteUninstaller "$INSTDIR\Uninstall.exe"
+    CreateShortCut "$SMPROGRAMS\${NAME}.lnk" "$INSTDIR\${NAME}.exe"
+
+    WriteRegStr HKLM "${UNINSTALL_KEY}" DisplayName "${NAME}"
+    WriteRegStr HKLM "${UNINSTALL_KEY}" DisplayVersion "${VERSION}"
+    WriteRegStr HKLM "${UNINSTALL_KEY}" Publisher "${PUBLISHER}"
+    WriteRegStr HKLM "${UNINSTALL_KEY}" DisplayIcon "$INSTDIR\${NAME}.exe"
+    WriteRegStr HKLM "${UNINSTALL_KEY}" InstallLocation "$INSTDIR"
+    WriteRegStr HKLM "${UNINSTALL_KEY}" UninstallString '"$INSTDIR\Uninstall.exe"'
+    WriteRegStr HKLM "${UNINSTALL_KEY}" QuietUninstallString '"$INSTDIR\Uninstall.exe" /S'
+    WriteRegDWORD HKLM "${UNINSTALL_KEY}" EstimatedSize ${SIZE_KB}
+    WriteRegDWORD HKLM "${UNINSTALL_KEY}" NoModify 1
+    WriteRegDWORD HKLM "${UNINSTALL_KEY}" NoRepair 1
+SectionEnd
+
+; By way of the desktop, which has the user's own rights and not the installer's.
+Function StartProgram
+    Exec '"$WINDIR\explorer.exe" "$SMPROGRAMS\${NAME}.lnk"'
+FunctionEnd
+
+; --- removing ------------------------------------------------------------------------------------
+
+Function un.onInit
+    !insertmacro CommonStart
+    StrCpy $IsUpgrade 0
+    ${GetParameters} $0
+    ClearErrors
+    ${GetOptions} $0 "/UPGRADE" $1
+    ${IfNot} ${Errors}
+        StrCpy $IsUpgrade 1
+    ${EndIf}
+    ClearErrors
+FunctionEnd
+
+; Only by name and never a folder with what is in it: what others put there is theirs. Branding that
+; a vendor has changed, and which so has another date, stays for the version that comes.
+!macro TakeAway FOLDER PATH SOURCE
+    !if "${FOLDER}" == "branding"
+        GetFileTimeLocal "${DIST}/${SOURCE}" $0 $1
+        GetFileTime "$INSTDIR\${PATH}" $2 $3
+        ${If} $IsUpgrade = 0
+        ${OrIf} "$0 $1" == "$2 $3"
+            Delete "$INSTDIR\${PATH}"
+        ${EndIf}
+    !else
+        Delete "$INSTDIR\${PATH}"
+    !endif
+!macroend
+
+!macro TakeFolderAway FOLDER
+    RMDir "$INSTDIR\${FOLDER}"
+!macroend
+
+; Takes away the folder and those above it that the installation made, where they are empty now.
+Function un.RemoveFolders
+    ReadRegStr $0 HKLM "${UNINSTALL_KEY}" FirstNewFolder
+    GetFullPathName $1 "$INSTDIR"
+    ${Do}
+        RMDir "$1"
+        ${If} $1 == $0
+        ${OrIf} $1 == ""
+            ${ExitDo}
+        ${EndIf}
+        ${GetParent} $1 $1
+    ${Loop}
+FunctionEnd
+
+; Takes away the autostart entry of everybody who is signed in, where it names a program that is
+; gone. Entries of other copies stay.
+Function un.RemoveAutostart
+    StrCpy $0 0
+    ${Do}
+        EnumRegKey $1 HKU "" $0
+        ${If} $1 == ""
+            ${ExitDo}
+        ${EndIf}
+        ReadRegStr $2 HKU "$1\${RUN_KEY}" "${NAME}"
+        ${If} $2 != ""
+        ${AndIfNot} ${FileExists} "$2"
+            DeleteRegValue HKU "$1\${RUN_KEY}" "${NAME}"
+        ${EndIf}
+        IntOp $0 $0 + 1
+    ${Loop}
+FunctionEnd
+
+; Asks for the settings of who removes the program; silence keeps them.
+Function un.OfferToRemoveSettings
+    SetShellVarContext current
+    ${If} ${FileExists} "$DOCUMENTS\Corvane\${NAME}\lumikey.ini"
+        MessageBox MB_YESNO|MB_ICONQUESTION|MB_DEFBUTTON2 "Remove your settings, too?$\r$\n$\r$\n\
+            They hold your colours, effects and brightness, in $DOCUMENTS\Corvane\${NAME}." \
+            /SD IDNO IDNO kept
+        Delete "$DOCUMENTS\Corvane\${NAME}\lumikey.ini"
+        RMDir "$DOCUMENTS\Corvane\${NAME}"
+        RMDir "$DOCUMENTS\Corvane"
+        kept:
+    ${EndIf}
+    SetShellVarContext all
+FunctionEnd
+
+Section Uninstall
+    SetOutPath "$TEMP" ; a folder that somebody is in cannot be removed
+    ${If} $IsUpgrade = 0
+        Call un.EndProgram
+        Pop $0
+        ${If} $0 != 0
+            !insertmacro Refuse ${EXIT_RUNNING} "${NAME} is running and could not be ended."
+        ${EndIf}
+    ${EndIf}
+
+    !insertmacro EachFile TakeAway
+    ${If} ${FileExists} "$INSTDIR\${NAME}.exe"
+        !insertmacro Refuse ${EXIT_FAILED} "${NAME} could not be removed from $INSTDIR."
+    ${EndIf}
+    ${If} $IsUpgrade = 1
+        !insertmacro EachFolder TakeFolderAway
+        Return
+    ${EndIf}
+
+    Delete "$INSTDIR\updates\work.ini" ; the program's own note
+    !insertmacro EachFolder TakeFolderAway
+    Delete "$SMPROGRAMS\${NAME}.lnk"
+    Delete "$INSTDIR\Uninstall.exe"
+    Call un.RemoveFolders
+    DeleteRegKey HKLM "${UNINSTALL_KEY}"
+    Call un.RemoveAutostart
+    Call un.OfferToRemoveSettings
+    ${If} ${FileExists} "$INSTDIR\*.*"
+        MessageBox MB_OK|MB_ICONINFORMATION "${NAME} is removed. Files that it did not bring stay \
+            in $INSTDIR." /SD IDOK
+    ${EndIf}
+SectionEnd
