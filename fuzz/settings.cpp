@@ -15,6 +15,7 @@
 #include <QTabWidget>
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
@@ -157,9 +158,8 @@ void loadByOldWindow(const FuzzWorld &world, const QByteArray &settingsFile,
 DarkStyle &startApplication()
 {
     static int argc = 1;
-    static char name[] = "settings";
-    static char *argv[] = {name, nullptr};
-    new QApplication(argc, argv);
+    static std::array<char *, 2> argv{qstrdup("settings"), nullptr};
+    new QApplication(argc, argv.data());
     auto *const style = new DarkStyle;
     QApplication::setStyle(style); // the application takes ownership
     return *style;
