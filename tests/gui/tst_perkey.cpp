@@ -174,12 +174,12 @@ void TestPerKey::tabsAreLaidOutAnew()
     QCOMPARE(bar->tabRect(3).left(), bar->tabRect(0).left());
     box->click();
     QCOMPARE(bar->tabRect(2), stripe);
-    // Without the stripe's page there is nothing to its right.
+    // Without the stripe's page there is nothing to its right, once the bar has become narrower.
     world.get<QCheckBox>("StartHidden_2")->click();
-    QCOMPARE(bar->tabRect(2).width(), 0);
+    QTRY_COMPARE(bar->tabRect(2).width(), 0);
     box->click();
     box->click();
-    QCOMPARE(bar->tabRect(2).width(), 0);
+    QTRY_COMPARE(bar->tabRect(2).width(), 0);
 }
 
 QTEST_MAIN(TestPerKey)
