@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QStandardPaths>
 
 #include <utility>
@@ -13,6 +14,22 @@ namespace {
 QString workPath(const SettingKey &key)
 {
     return QStringLiteral("workqueue/") + QLatin1String(key.name);
+}
+
+/// How long a write waits for another process that is writing the same file; that takes
+/// milliseconds.
+constexpr int longestWaitMs = 100;
+
+/// Whether another process does not get done with writing the file. QSettings itself would wait
+/// for it for half a minute, and the window with it.
+bool isHeld(const QString &path)
+{
+    const QString lockPath = path + QStringLiteral(".lock");
+    if (!QFileInfo::exists(lockPath)) {
+        return false; // as nearly always; to take the lock would double the time of a write
+    }
+    QLockFile lock(lockPath);
+    return !lock.tryLock(longestWaitMs) && lock.error() == QLockFile::LockFailedError;
 }
 
 /// An existing file that cannot be opened: QSettings itself stays silent about it when reading.
@@ -68,6 +85,10 @@ QVariant AppSettings::readSetting(const SettingKey &key) const
 
 void AppSettings::writeSetting(const SettingKey &key, const QVariant &value) const
 {
+    if (isHeld(settingsIniPath)) {
+        report(WriteSettings, settingsIniPath, QSettings::AccessError);
+        return;
+    }
     const auto settings = openSettings();
     settings->setValue(settingsPath(key), inStoredForm(key, value));
     settings->sync();
@@ -89,6 +110,10 @@ QVariant AppSettings::readBranding(const SettingKey &key) const
 
 void AppSettings::writeWorkQueue(const SettingKey &key, const QVariant &value) const
 {
+    if (isHeld(workIniPath)) {
+        report(WriteWork, workIniPath, QSettings::AccessError);
+        return;
+    }
     QSettings settings(workIniPath, QSettings::IniFormat);
     settings.setValue(workPath(key), inStoredForm(key, value));
     settings.sync();
@@ -117,6 +142,11 @@ void AppSettings::report(Access access, const QSettings &settings) const
     if (status == QSettings::NoError && isUnreadable(settings.fileName())) {
         status = QSettings::AccessError;
     }
+    report(access, settings.fileName(), status);
+}
+
+void AppSettings::report(Access access, const QString &path, QSettings::Status status) const
+{
     // Damage is told, and mended by the write itself, where the file is read.
     const bool writes = access == WriteSettings || access == WriteWork;
     if (writes && status == QSettings::FormatError) {
@@ -129,7 +159,7 @@ void AppSettings::report(Access access, const QSettings &settings) const
     const char *const trouble = malformed ? "Malformed file:"
                                 : writes  ? "Cannot write file:"
                                           : "Cannot read file:";
-    qDebug().noquote() << trouble << QDir::toNativeSeparators(settings.fileName());
+    qDebug().noquote() << trouble << QDir::toNativeSeparators(path);
     if (access == ReadSettings && malformed) {
         keepDamagedSettings();
     }

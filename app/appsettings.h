@@ -51,6 +51,7 @@ private:
 
     QVariant readFrom(Access access, const QString &path, const SettingKey &key) const;
     void report(Access access, const QSettings &settings) const;
+    void report(Access access, const QString &path, QSettings::Status status) const;
     void keepDamagedSettings() const;
 
     QString documentsDirPath;

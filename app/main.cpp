@@ -80,7 +80,7 @@ int main(int argc, char *argv[])
     });
 
     const auto settings = paths.openSettings();
-    settings->setValue(settingsPath(SettingKeys::appUrl),
+    paths.writeSetting(SettingKeys::appUrl,
                        QDir::toNativeSeparators(QCoreApplication::applicationFilePath()));
     const bool startHidden = settings->value(settingsPath(SettingKeys::startHidden)).toBool();
 

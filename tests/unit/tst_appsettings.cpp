@@ -2,9 +2,12 @@
 #include "tests/support/guitest.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QRegularExpression>
 #include <QStandardPaths>
+#include <QSysInfo>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -41,6 +44,8 @@ private slots:
     void fileInPlaceOfTheFolder();
     void troubleIsLoggedOnce_data();
     void troubleIsLoggedOnce();
+    void fileHeldByAnotherWriter();
+    void lockLeftByAKilledWriter();
     void badBrandingIsLeftAlone();
 
 private:
@@ -334,6 +339,43 @@ void TestAppSettings::troubleIsLoggedOnce()
             << QStringLiteral("%1 %2 %3").arg(QtDebugMsg).arg(trouble, settings->settingsIni());
     }
     QCOMPARE(log, expected);
+}
+
+void TestAppSettings::fileHeldByAnotherWriter()
+{
+    settings->writeSetting(SettingKeys::effects, 1);
+    const QByteArray before = settingsText();
+    QLockFile other(settings->settingsIni() + QStringLiteral(".lock"));
+    QVERIFY(other.tryLock());
+    QTest::ignoreMessage(
+        QtDebugMsg, qPrintable(QStringLiteral("Cannot write file: ") + settings->settingsIni()));
+    QElapsedTimer time;
+    time.start();
+    settings->writeSetting(SettingKeys::effects, 2);
+    QVERIFY2(time.elapsed() < 2000, qPrintable(QString::number(time.elapsed())));
+    QCOMPARE(settingsText(), before);
+    QCOMPARE(settings->readSetting(SettingKeys::effects).toInt(), 1);
+    other.unlock();
+    settings->writeSetting(SettingKeys::effects, 3);
+    QCOMPARE(settings->readSetting(SettingKeys::effects).toInt(), 3);
+
+    QVERIFY(QDir().mkpath(QStringLiteral("updates")));
+    QLockFile updater(settings->workIni() + QStringLiteral(".lock"));
+    QVERIFY(updater.tryLock());
+    QTest::ignoreMessage(QtDebugMsg, qPrintable(QStringLiteral("Cannot write file: ")
+                                                + QDir::toNativeSeparators(settings->workIni())));
+    settings->writeWorkQueue(WorkKeys::updatePending, true);
+    QVERIFY(!QFileInfo::exists(settings->workIni()));
+}
+
+void TestAppSettings::lockLeftByAKilledWriter()
+{
+    // A process number that no process can have, a program, a machine.
+    writeFile(settings->settingsIni() + QStringLiteral(".lock"),
+              "2147483646\nLumikey\n" + QSysInfo::machineHostName().toUtf8() + '\n');
+    settings->writeSetting(SettingKeys::effects, 3);
+    QCOMPARE(settings->readSetting(SettingKeys::effects).toInt(), 3);
+    QVERIFY(!QFileInfo::exists(settings->settingsIni() + QStringLiteral(".lock")));
 }
 
 void TestAppSettings::badBrandingIsLeftAlone()
