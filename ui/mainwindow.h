@@ -8,6 +8,7 @@
 #include "lighting/myeventfilter.h"
 #include "system/types.h"
 
+#include <QAbstractSocket>
 #include <QMainWindow>
 #include <QPoint>
 #include <QSharedMemory>
@@ -170,6 +171,8 @@ private:
     void showBrightness(const char *suffix);
 
     void startServiceServer();
+    /// Goes on accepting clients after the system refused to hand one over.
+    void acceptAgain(QAbstractSocket::SocketError error);
     QString rgbText() const override;
     void setRgbText(const QString &text) override;
     void connectColourPicker();
@@ -205,6 +208,7 @@ private:
     WakeSequence wake;
     QString commandLine;
     QTcpServer *serviceServer = nullptr;
+    bool acceptingFailed = false; ///< since the last client; the log has been told
 
     /// Settings are being loaded: the lighting slots neither store nor raise a wake.
     bool loadingSettings = true;

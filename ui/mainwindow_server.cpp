@@ -9,6 +9,16 @@
 #include <QHostAddress>
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QTimer>
+
+#include <utility>
+
+namespace {
+
+/// How long clients wait while the system is out of handles.
+constexpr int handlesReturnMs = 250;
+
+} // namespace
 
 void MainWindow::startServiceServer()
 {
@@ -21,6 +31,18 @@ void MainWindow::startServiceServer()
         qCritical("Could not start the Service Server");
     }
     connect(serviceServer, SIGNAL(newConnection()), this, SLOT(sendFortune()));
+    connect(serviceServer, &QTcpServer::acceptError, this, &MainWindow::acceptAgain);
+}
+
+void MainWindow::acceptAgain(QAbstractSocket::SocketError error)
+{
+    // Qt stops accepting at the first failure, be it one client that left too early.
+    if (!std::exchange(acceptingFailed, true)) {
+        qDebug().noquote() << "Cannot accept a client:" << serviceServer->errorString();
+    }
+    const bool outOfHandles = error == QAbstractSocket::SocketResourceError;
+    QTimer::singleShot(outOfHandles ? handlesReturnMs : 0, serviceServer,
+                       &QTcpServer::resumeAccepting);
 }
 
 void MainWindow::sendFortune()
@@ -29,6 +51,7 @@ void MainWindow::sendFortune()
     if (client == nullptr) {
         return; // nobody to answer: the wake sequence must not move on
     }
+    acceptingFailed = false;
     const LineChoice choice =
         chooseLine(lighting, {ui->backlight_off->isChecked(), ui->horizontalSlider->value(), wake});
     commandLine = choice.line;

@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QHostAddress>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QSlider>
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -46,6 +47,8 @@ private slots:
     void manyAtOnce();
     void clientsThatAreGone();
     void clientThatTalks();
+    void acceptingGoesOn_data();
+    void acceptingGoesOn();
     void portTaken();
 };
 
@@ -199,6 +202,36 @@ void TestServiceServer::clientThatTalks()
     QTRY_COMPARE(socket.state(), QAbstractSocket::UnconnectedState);
     QCOMPARE(ServiceClient::lineOf(socket.readAll()), wakeLine);
     QCOMPARE(ServiceClient::readLine(), wakeLine); // the next is served as ever
+}
+
+void TestServiceServer::acceptingGoesOn_data()
+{
+    QTest::addColumn<QAbstractSocket::SocketError>("error");
+    QTest::newRow("out of handles") << QAbstractSocket::SocketResourceError;
+    QTest::newRow("client that left too early") << QAbstractSocket::SocketAccessError;
+}
+
+void TestServiceServer::acceptingGoesOn()
+{
+    QFETCH(QAbstractSocket::SocketError, error);
+    TestWindow world;
+    startRed(world);
+    auto *const server = world.window->findChild<QTcpServer *>();
+    static QStringList log;
+    log.clear();
+    const QtMessageHandler before = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext &, const QString &text) { log.append(text); });
+    const auto refuse = [&] {
+        server->pauseAccepting(); // as Qt does before it tells
+        emit server->acceptError(error);
+    };
+    refuse();
+    refuse(); // still the same trouble
+    takeWakeLines();
+    refuse();
+    QCOMPARE(ServiceClient::readLine(), redLine);
+    qInstallMessageHandler(before);
+    QCOMPARE(log.filter(QRegularExpression(QStringLiteral("^Cannot accept a client: "))).size(), 2);
 }
 
 void TestServiceServer::portTaken()
