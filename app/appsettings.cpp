@@ -19,17 +19,26 @@ QString workPath(const SettingKey &key)
 /// How long a write waits for another process that is writing the same file; that takes
 /// milliseconds.
 constexpr int longestWaitMs = 100;
+/// After so long a lock without its owner's name is that of a process that was killed before it
+/// could write it; and how long a write waits for that.
+constexpr int namelessForMs = 300;
+constexpr int namelessWaitMs = 1000;
 
 /// Whether another process does not get done with writing the file. QSettings itself would wait
 /// for it for half a minute, and the window with it.
 bool isHeld(const QString &path)
 {
-    const QString lockPath = path + QStringLiteral(".lock");
-    if (!QFileInfo::exists(lockPath)) {
+    const QFileInfo file(path + QStringLiteral(".lock"));
+    if (!file.exists()) {
         return false; // as nearly always; to take the lock would double the time of a write
     }
-    QLockFile lock(lockPath);
-    return !lock.tryLock(longestWaitMs) && lock.error() == QLockFile::LockFailedError;
+    QLockFile lock(file.filePath());
+    const bool nameless = file.size() == 0;
+    if (nameless) {
+        lock.setStaleLockTime(namelessForMs);
+    }
+    return !lock.tryLock(nameless ? namelessWaitMs : longestWaitMs)
+           && lock.error() == QLockFile::LockFailedError;
 }
 
 /// An existing file that cannot be opened: QSettings itself stays silent about it when reading.
@@ -142,6 +151,11 @@ void AppSettings::report(Access access, const QSettings &settings) const
     if (status == QSettings::NoError && isUnreadable(settings.fileName())) {
         status = QSettings::AccessError;
     }
+    // What could not be written waits for the next that uses the file, be it to read.
+    const bool reads = access == ReadSettings || access == ReadBranding;
+    if (reads && status == QSettings::AccessError && !isUnreadable(settings.fileName())) {
+        status = QSettings::NoError;
+    }
     report(access, settings.fileName(), status);
 }
 
@@ -152,7 +166,7 @@ void AppSettings::report(Access access, const QString &path, QSettings::Status s
     if (writes && status == QSettings::FormatError) {
         return;
     }
-    if (std::exchange(reported.at(access), status) == status || status == QSettings::NoError) {
+    if (std::exchange(reported->at(access), status) == status || status == QSettings::NoError) {
         return;
     }
     const bool malformed = status == QSettings::FormatError;

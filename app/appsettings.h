@@ -59,8 +59,10 @@ private:
     QString brandingIniPath;
     QString settingsIniPath;
     QString workIniPath;
-    /// What the log was last told of each access, so that a lasting trouble is one line.
-    mutable std::array<QSettings::Status, 4> reported{};
+    using Reported = std::array<QSettings::Status, 4>;
+    /// What the log was last told of each access, by this object or a copy of it, so that a lasting
+    /// trouble is one line.
+    std::shared_ptr<Reported> reported = std::make_shared<Reported>();
 };
 
 /// The full name of a key of the settings or branding file ("settings/" + name).

@@ -208,6 +208,7 @@ private:
     WakeSequence wake;
     QString commandLine;
     QTcpServer *serviceServer = nullptr;
+    bool clientAccepted = false;  ///< since accepting last failed
     bool acceptingFailed = false; ///< since the last client; the log has been told
 
     /// Settings are being loaded: the lighting slots neither store nor raise a wake.

@@ -36,11 +36,13 @@ void MainWindow::startServiceServer()
 
 void MainWindow::acceptAgain(QAbstractSocket::SocketError error)
 {
-    // Qt stops accepting at the first failure, be it one client that left too early.
-    if (!std::exchange(acceptingFailed, true)) {
+    // Qt stops accepting at the first failure, be it one client that left too early, and from then
+    // on tells of that failure whenever the queue is empty.
+    const bool isNews = !std::exchange(clientAccepted, false);
+    if (isNews && !std::exchange(acceptingFailed, true)) {
         qDebug().noquote() << "Cannot accept a client:" << serviceServer->errorString();
     }
-    const bool outOfHandles = error == QAbstractSocket::SocketResourceError;
+    const bool outOfHandles = isNews && error == QAbstractSocket::SocketResourceError;
     QTimer::singleShot(outOfHandles ? handlesReturnMs : 0, serviceServer,
                        &QTcpServer::resumeAccepting);
 }
@@ -51,6 +53,7 @@ void MainWindow::sendFortune()
     if (client == nullptr) {
         return; // nobody to answer: the wake sequence must not move on
     }
+    clientAccepted = true;
     acceptingFailed = false;
     const LineChoice choice =
         chooseLine(lighting, {ui->backlight_off->isChecked(), ui->horizontalSlider->value(), wake});

@@ -2,7 +2,7 @@
 
 #include <QtGlobal>
 
-/// What this process holds of the system at the moment.
+/// What a process holds of the system at the moment.
 struct ResourceUsage
 {
     int handles = 0;        ///< files, sockets and whatever else the system counts as such
@@ -11,3 +11,6 @@ struct ResourceUsage
 };
 
 ResourceUsage resourceUsage();
+
+/// What another process holds, handles and memory alone; what cannot be found out is 0.
+ResourceUsage resourceUsageOf(qint64 processId);

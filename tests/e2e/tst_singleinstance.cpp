@@ -1,8 +1,7 @@
 #include "programlines.h"
 
 #include "app/connectionmessage.h"
-#include "app/instancename.h"
-#include "system/platform.h"
+#include "tests/support/instancesocket.h"
 #include "tests/support/programprocess.h"
 #include "tests/support/programwindow.h"
 #include "tests/support/serviceclient.h"
@@ -167,11 +166,7 @@ private slots:
     void strangers();
 
 private:
-    /// Another client of what later starts meet the running one under.
-    std::unique_ptr<QLocalSocket> stranger();
-
     std::unique_ptr<ProgramProcess> first;
-    QString name;
 };
 
 void TestSingleInstance::initTestCase()
@@ -183,7 +178,6 @@ void TestSingleInstance::initTestCase()
 void TestSingleInstance::init()
 {
     first = std::make_unique<ProgramProcess>();
-    name.clear();
 }
 
 void TestSingleInstance::secondStart_data()
@@ -328,34 +322,11 @@ void TestSingleInstance::anotherFolder()
     QVERIFY2(bothShown, qPrintable(QString::number(shownWindows())));
 }
 
-std::unique_ptr<QLocalSocket> TestSingleInstance::stranger()
-{
-    // The toolkit takes the version from the executable where executables have one.
-    const QStringList names =
-        name.isEmpty() ? QStringList{QString(), QStringLiteral("1.0.4.0")} : QStringList{name};
-    for (const QString &candidate : names) {
-        const QString tried = name.isEmpty()
-                                  ? instanceName({QStringLiteral("Lumikey"), QString(), QString(),
-                                                  candidate, ProgramProcess::executable(),
-                                                  createPlatform()->userName(), QStringList()},
-                                                 InstanceOptions::perUser)
-                                  : name;
-        auto client = std::make_unique<QLocalSocket>();
-        client->connectToServer(tried);
-        if (client->waitForConnected(5000)) {
-            name = tried;
-            return client;
-        }
-    }
-    qFatal("nobody listens under the program's name");
-    return nullptr;
-}
-
 void TestSingleInstance::strangers()
 {
     ProgramProcess::writeSettings("start_hidden=1\n");
     QVERIFY(first->startAndServe());
-    const auto silent = stranger();
+    const auto silent = InstanceSocket::connect();
     QTRY_COMPARE(silent->state(), QLocalSocket::UnconnectedState);
 
     QRandomGenerator random(7);
@@ -363,13 +334,14 @@ void TestSingleInstance::strangers()
         QByteArray bytes(1 + random.bounded(200), Qt::Uninitialized);
         std::generate(bytes.begin(), bytes.end(),
                       [&random] { return static_cast<char>(random.bounded(256)); });
-        const auto client = stranger();
+        const auto client = InstanceSocket::connect();
         client->write(bytes);
         QVERIFY(client->waitForDisconnected(5000));
     }
 
-    const QByteArray message = encodeConnectionMessage(name, {ConnectionMessage::NewStart, 0});
-    const auto slow = stranger();
+    const QByteArray message =
+        encodeConnectionMessage(InstanceSocket::name(), {ConnectionMessage::NewStart, 0});
+    const auto slow = InstanceSocket::connect();
     for (const char letter : message) {
         if (slow->write(&letter, 1) != 1 || !slow->waitForBytesWritten(1000)) {
             break; // dropped
@@ -379,13 +351,13 @@ void TestSingleInstance::strangers()
     QTRY_COMPARE(slow->state(), QLocalSocket::UnconnectedState);
     QByteArray wrong = message;
     wrong[wrong.size() - 1] = static_cast<char>(wrong.at(wrong.size() - 1) ^ 1);
-    const auto forger = stranger();
+    const auto forger = InstanceSocket::connect();
     forger->write(wrong);
     QVERIFY(forger->waitForDisconnected(5000));
 
     QTRY_COMPARE(ServiceClient::readLine(), Lines::off);
     QCOMPARE(shownWindows(), 0);
-    const auto genuine = stranger();
+    const auto genuine = InstanceSocket::connect();
     genuine->write(message);
     QVERIFY(eventually([&] { return shownWindows() == 1; }));
 }

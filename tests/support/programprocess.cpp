@@ -62,7 +62,9 @@ QString ProgramProcess::stored(const char *key)
 bool ProgramProcess::start(const QString &directory, const QStringList &arguments)
 {
     process.setWorkingDirectory(directory);
-    process.start(executable(), arguments);
+    QStringList command = launcher + QStringList{executable()} + arguments;
+    const QString first = command.takeFirst();
+    process.start(first, command);
     return process.waitForStarted();
 }
 

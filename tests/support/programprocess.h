@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QProcess>
 #include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
 
 /// The real program as a process of its own, run by a throw-away user. The Windows program runs
@@ -39,6 +40,7 @@ public:
 
     QTemporaryDir home;
     QProcess process;
+    QStringList launcher; ///< a command that becomes the program named behind it; may be empty
 
 private:
     QString logFile() const { return home.filePath(QStringLiteral("log")); }

@@ -7,6 +7,10 @@
 #include <QStandardPaths>
 #include <QTest>
 
+#include <winsock2.h>
+
+#include <windows.h>
+
 namespace {
 
 const QString runKey =
@@ -95,6 +99,44 @@ QStringList TestSystem::commandWithRights(bool elevated, const QString &program)
 bool TestSystem::messagesOutliveTheirSender()
 {
     return false;
+}
+
+void TestSystem::raiseHandleLimit() {}
+
+bool TestSystem::setMoreHandlesAllowed(qint64 /*processId*/, bool /*allowed*/)
+{
+    return false;
+}
+
+QStringList TestSystem::commandWithoutNetwork()
+{
+    return {};
+}
+
+void TestSystem::shutDownWriting(qintptr socketDescriptor)
+{
+    ::shutdown(static_cast<SOCKET>(socketDescriptor), SD_SEND);
+}
+
+std::shared_ptr<void> TestSystem::holdAlone(const QString &path)
+{
+    const HANDLE file =
+        ::CreateFileW(reinterpret_cast<LPCWSTR>(QDir::toNativeSeparators(path).utf16()),
+                      GENERIC_READ, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        qFatal("cannot hold %s", qPrintable(path));
+    }
+    return {file, ::CloseHandle};
+}
+
+QString TestSystem::pathOnDesktop(const QString &path)
+{
+    QProcess process;
+    process.start(QStringLiteral("winepath"), {QStringLiteral("-u"), path});
+    if (!process.waitForFinished()) {
+        qFatal("winepath did not end");
+    }
+    return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
 }
 
 bool TestSystem::asksForConsent()

@@ -45,6 +45,7 @@ private slots:
     void troubleIsLoggedOnce_data();
     void troubleIsLoggedOnce();
     void fileHeldByAnotherWriter();
+    void lockLeftByAKilledWriter_data();
     void lockLeftByAKilledWriter();
     void badBrandingIsLeftAlone();
 
@@ -368,14 +369,26 @@ void TestAppSettings::fileHeldByAnotherWriter()
     QVERIFY(!QFileInfo::exists(settings->workIni()));
 }
 
+void TestAppSettings::lockLeftByAKilledWriter_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    // A process number that no process can have, a program, a machine.
+    QTest::newRow("with its name")
+        << "2147483646\nLumikey\n" + QSysInfo::machineHostName().toUtf8() + '\n';
+    QTest::newRow("before it could write its name") << QByteArray();
+}
+
 void TestAppSettings::lockLeftByAKilledWriter()
 {
-    // A process number that no process can have, a program, a machine.
-    writeFile(settings->settingsIni() + QStringLiteral(".lock"),
-              "2147483646\nLumikey\n" + QSysInfo::machineHostName().toUtf8() + '\n');
+    QFETCH(QByteArray, content);
+    const QString lock = settings->settingsIni() + QStringLiteral(".lock");
+    writeFile(lock, content);
+    QElapsedTimer time;
+    time.start();
     settings->writeSetting(SettingKeys::effects, 3);
+    QVERIFY2(time.elapsed() < 5000, qPrintable(QString::number(time.elapsed())));
     QCOMPARE(settings->readSetting(SettingKeys::effects).toInt(), 3);
-    QVERIFY(!QFileInfo::exists(settings->settingsIni() + QStringLiteral(".lock")));
+    QVERIFY(!QFileInfo::exists(lock));
 }
 
 void TestAppSettings::badBrandingIsLeftAlone()

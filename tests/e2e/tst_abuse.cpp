@@ -1,0 +1,274 @@
+#include "system/testing/resourceusage.h"
+#include "tests/e2e/programlines.h"
+#include "tests/support/programprocess.h"
+#include "tests/support/programtwin.h"
+#include "tests/support/programwindow.h"
+#include "tests/support/serviceclient.h"
+#include "tests/support/testsystem.h"
+
+#include <QElapsedTimer>
+#include <QHostAddress>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTest>
+
+namespace {
+
+constexpr int closedAtOnce = 100'000;
+constexpr int heldOpen = 1000;
+constexpr int halfOpen = 200;
+constexpr int talkers = 40;
+constexpr int junkBytes = 4 * 1024 * 1024;
+/// So many of those who misbehave between two honest clients.
+constexpr int betweenHonest = 100;
+/// What a heap may keep of it all.
+constexpr qint64 memoryKept = 1024 * 1024;
+
+const QHostAddress &address()
+{
+    static const QHostAddress loopback(QStringLiteral("127.0.0.9"));
+    return loopback;
+}
+
+constexpr quint16 port = 52316;
+
+using Sockets = std::vector<std::unique_ptr<QTcpSocket>>;
+
+std::unique_ptr<QTcpSocket> connected()
+{
+    auto socket = std::make_unique<QTcpSocket>();
+    socket->connectToHost(address(), port);
+    return socket->waitForConnected() ? std::move(socket) : nullptr;
+}
+
+} // namespace
+
+/// The Service Server among clients that misbehave, and without what it needs.
+class TestAbuse : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void connectionsThatCloseAtOnce();
+    void connectionsHeldOpen();
+    void halfOpenConnections();
+    void junkBeforeReading();
+    void portTaken();
+    void addressMissing();
+    void outOfHandles_data();
+    void outOfHandles();
+
+private:
+    /// Starts the program and waits until it answers as it will from then on.
+    void startServing();
+    /// The window works and the settings are stored, with a server or without.
+    void seeTheRestWork() const;
+    /// Handles and memory are where they were.
+    void seeNothingKept(const ResourceUsage &before) const;
+    /// What the program holds when it has had time to clear up.
+    ResourceUsage usage() const
+    {
+        QTest::qWait(1000);
+        return resourceUsageOf(program->process.processId());
+    }
+
+    std::unique_ptr<ProgramProcess> program;
+};
+
+void TestAbuse::initTestCase()
+{
+    TestSystem::raiseHandleLimit();
+    ProgramTwin::takeOnItsLooks();
+}
+
+void TestAbuse::init()
+{
+    program = std::make_unique<ProgramProcess>();
+}
+
+void TestAbuse::cleanup()
+{
+    program.reset();
+}
+
+void TestAbuse::startServing()
+{
+    ProgramProcess::writeSettings(Lines::threeZonesSettings);
+    QVERIFY(program->startAndServe());
+    QTest::qWait(Lines::appliedAfterMs);
+    QTRY_COMPARE(ServiceClient::readLine(), Lines::threeZones);
+}
+
+void TestAbuse::seeTheRestWork() const
+{
+    QTRY_VERIFY(ProgramWindow::shown() != 0);
+    QTest::qWait(Lines::appliedAfterMs);
+    const ProgramTwin twin(Lines::threeZonesSettings);
+    twin.click("backlight_off");
+    QTRY_COMPARE(ProgramProcess::stored("backlight_on"), QStringLiteral("false"));
+    QCOMPARE(program->process.state(), QProcess::Running);
+}
+
+void TestAbuse::seeNothingKept(const ResourceUsage &before) const
+{
+    QVERIFY(before.handles > 0 && before.memory > 0);
+    const ResourceUsage now = usage();
+    qInfo("handles: %d, then %d; memory: %lld KiB, then %lld KiB", before.handles, now.handles,
+          before.memory / 1024, now.memory / 1024);
+    QVERIFY(now.handles <= before.handles);
+    QVERIFY(now.memory <= before.memory + memoryKept);
+}
+
+void TestAbuse::connectionsThatCloseAtOnce()
+{
+    startServing();
+    const auto comeAndGo = [](int clients) {
+        for (int client = 0; client < clients; ++client) {
+            auto socket = connected();
+            QVERIFY(socket);
+            socket->abort();
+            if (client % betweenHonest == 0) {
+                QCOMPARE(ServiceClient::readLine(), Lines::threeZones);
+            }
+        }
+    };
+    comeAndGo(closedAtOnce / 10); // brings the heap to the size that the longest queue needs
+    const ResourceUsage before = usage();
+    QElapsedTimer time;
+    time.start();
+    comeAndGo(closedAtOnce);
+    qInfo("%d connections in %lld ms", closedAtOnce, time.elapsed());
+    QCOMPARE(ServiceClient::readLine(), Lines::threeZones);
+    seeNothingKept(before);
+}
+
+void TestAbuse::connectionsHeldOpen()
+{
+    startServing();
+    const ResourceUsage before = usage();
+    Sockets held;
+    for (int client = 0; client < heldOpen; ++client) {
+        held.push_back(connected());
+        QVERIFY(held.back());
+        // Reads one byte and then no more, so that it never learns of the other end's close.
+        held.back()->setReadBufferSize(1);
+        if (client % 50 == 0) {
+            QCOMPARE(ServiceClient::readLine(), Lines::threeZones);
+        }
+    }
+    for (int honest = 0; honest < 100; ++honest) {
+        QCOMPARE(ServiceClient::readLine(), Lines::threeZones);
+    }
+    const auto open = std::count_if(held.begin(), held.end(), [](const auto &socket) {
+        return socket->state() == QAbstractSocket::ConnectedState;
+    });
+    QCOMPARE(static_cast<int>(open), heldOpen);
+    seeNothingKept(before); // the server has done with them
+}
+
+void TestAbuse::halfOpenConnections()
+{
+    startServing();
+    const ResourceUsage before = usage();
+    Sockets sockets;
+    for (int client = 0; client < halfOpen; ++client) {
+        sockets.push_back(connected());
+        QVERIFY(sockets.back());
+        TestSystem::shutDownWriting(sockets.back()->socketDescriptor());
+        if (client % 20 == 0) {
+            QCOMPARE(ServiceClient::readLine(), Lines::threeZones);
+        }
+    }
+    for (const auto &socket : sockets) {
+        QTRY_COMPARE(socket->state(), QAbstractSocket::UnconnectedState);
+        QCOMPARE(ServiceClient::lineOf(socket->readAll()), Lines::threeZones);
+    }
+    seeNothingKept(before);
+}
+
+void TestAbuse::junkBeforeReading()
+{
+    startServing();
+    const ResourceUsage before = usage();
+    const QByteArray junk(junkBytes, '\xa5');
+    Sockets sockets;
+    for (int client = 0; client < talkers; ++client) {
+        sockets.push_back(connected());
+        QVERIFY(sockets.back());
+        sockets.back()->write(junk);
+        sockets.back()->flush();
+        QCOMPARE(ServiceClient::readLine(), Lines::threeZones);
+    }
+    QTest::qWait(500); // they go on sending to whoever still listens
+    for (int honest = 0; honest < 20; ++honest) {
+        QCOMPARE(ServiceClient::readLine(), Lines::threeZones);
+    }
+    sockets.clear();
+    seeNothingKept(before);
+}
+
+void TestAbuse::portTaken()
+{
+    QTcpServer other;
+    QVERIFY(other.listen(address(), port));
+    ProgramProcess::writeSettings(Lines::threeZonesSettings);
+    QVERIFY(program->start());
+    QVERIFY(program->waitForLog("Could not start the Service Server"));
+    seeTheRestWork();
+}
+
+void TestAbuse::addressMissing()
+{
+    program->launcher = TestSystem::commandWithoutNetwork();
+    if (program->launcher.isEmpty()) {
+        QSKIP("this system has no network without addresses");
+    }
+    ProgramProcess::writeSettings(Lines::threeZonesSettings);
+    QVERIFY(program->start());
+    QVERIFY(program->waitForLog("Could not start the Service Server"));
+    seeTheRestWork();
+}
+
+void TestAbuse::outOfHandles_data()
+{
+    QTest::addColumn<bool>("clientsBefore");
+    // Qt's server remembers its first failure for ever, and an empty queue counts as one.
+    QTest::newRow("before the first client") << false;
+    QTest::newRow("after others") << true;
+}
+
+void TestAbuse::outOfHandles()
+{
+    QFETCH(bool, clientsBefore);
+    ProgramProcess::writeSettings("backlight_on=false\n");
+    QVERIFY(program->startAndServe());
+    QTest::qWait(Lines::appliedAfterMs); // until it has let go of what the start took
+    if (clientsBefore) {
+        QCOMPARE(ServiceClient::readLine(), Lines::off);
+        QTest::qWait(1000);
+    }
+    const qint64 process = program->process.processId();
+    if (!TestSystem::setMoreHandlesAllowed(process, false)) {
+        QSKIP("this system does not take handles away");
+    }
+    auto waiting = connected(); // by the system; nobody can take it in
+    QVERIFY(waiting);
+    QVERIFY(!waiting->waitForReadyRead(1500));
+    QVERIFY(TestSystem::setMoreHandlesAllowed(process, true));
+    QTRY_COMPARE(waiting->state(), QAbstractSocket::UnconnectedState);
+    QCOMPARE(ServiceClient::lineOf(waiting->readAll()), Lines::off);
+    QElapsedTimer time;
+    time.start();
+    for (int client = 0; client < 50; ++client) {
+        QCOMPARE(ServiceClient::readLine(), Lines::off);
+    }
+    QVERIFY2(time.elapsed() < 2500, qPrintable(QString::number(time.elapsed()))); // as ever
+    // With a client before, Qt tries again by itself and tells nobody.
+    QCOMPARE(program->log().count("Cannot accept a client: "), clientsBefore ? 0 : 1);
+}
+
+QTEST_MAIN(TestAbuse)
+#include "tst_abuse.moc"

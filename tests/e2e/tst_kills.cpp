@@ -1,0 +1,117 @@
+#include "tests/e2e/programlines.h"
+#include "tests/support/guitest.h"
+#include "tests/support/programprocess.h"
+#include "tests/support/programtwin.h"
+#include "tests/support/programwindow.h"
+#include "tests/support/serviceclient.h"
+
+#include <QDir>
+#include <QRandomGenerator>
+#include <QTest>
+
+namespace {
+
+constexpr int kills = 200;
+constexpr int killsInUse = 10;
+/// A write takes about as long as the longest wait before a kill.
+constexpr int longestWaitUs = 10'000;
+
+/// The only file that the writer ever leaves: nothing else in it, nothing missing.
+QByteArray fileWith(int number)
+{
+    return "[settings]\nbrightlevel=" + QByteArray::number(number) + "\nkept=as it was\n";
+}
+
+QByteArray withPlainLineEnds(QByteArray text)
+{
+    return text.replace("\r\n", "\n");
+}
+
+} // namespace
+
+/// Hard kills while settings are being written: the file is whole, with the old or the new value.
+class TestKills : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { ProgramTwin::takeOnItsLooks(); }
+    void writerKilled();
+    void programKilledInUse();
+};
+
+void TestKills::writerKilled()
+{
+    const QTemporaryDir documents;
+    const AppSettings settings(documents.path());
+    writeFile(settings.settingsIni(), fileWith(0));
+    QRandomGenerator random(7);
+    int last = 0;
+    int oldValues = 0;
+    for (int kill = 0; kill < kills; ++kill) {
+        QProcess writer;
+        writer.start(QStringLiteral(LUMIKEY_SETTINGS_WRITER_PATH),
+                     {documents.path(), QString::number(last + 1)});
+        // Until it has stored one: a lock that the last kill left is out of the way.
+        QByteArray output;
+        while (output.count('\n') < 2) {
+            QVERIFY(writer.waitForReadyRead(20'000));
+            output += writer.readAllStandardOutput();
+        }
+        QTest::qSleep(1 + random.bounded(longestWaitUs) / 1000);
+        writer.kill();
+        QVERIFY(writer.waitForFinished());
+        QCOMPARE(writer.exitStatus(), QProcess::CrashExit);
+
+        output += writer.readAllStandardOutput();
+        output.truncate(output.lastIndexOf('\n'));
+        const int newest = output.mid(output.lastIndexOf('\n') + 1).trimmed().toInt();
+        QVERIFY(newest > last);
+        const QByteArray text = withPlainLineEnds(readFile(settings.settingsIni()));
+        const bool old = text == fileWith(newest - 1);
+        QVERIFY2(old || text == fileWith(newest), text.constData());
+        oldValues += old ? 1 : 0;
+        last = newest;
+    }
+    qInfo("%d kills, %d numbers stored: %d times the old value, %d times the new", kills, last,
+          oldValues, kills - oldValues);
+    QVERIFY(oldValues > 0 && oldValues < kills); // or no kill came in the middle
+}
+
+void TestKills::programKilledInUse()
+{
+    QRandomGenerator random(7);
+    QByteArray lines = Lines::threeZonesSettings;
+    ProgramProcess program;
+    ProgramProcess::writeSettings(lines + "kept=as it was\n");
+    for (int kill = 0; kill < killsInUse; ++kill) {
+        QVERIFY(program.startAndServe());
+        QTRY_VERIFY(ProgramWindow::shown() != 0);
+        QTest::qWait(Lines::appliedAfterMs);
+        {
+            const ProgramTwin twin(lines);
+            twin.click("horizontalSlider");
+        }
+        // Each key is a step of the slider, and a write.
+        ProgramWindow::press(QStringList{QStringLiteral("--delay"), QStringLiteral("1")}
+                             + QVector<QString>(40, QStringLiteral("Left")).toList());
+        ProgramWindow::press(QStringList{QStringLiteral("--delay"), QStringLiteral("1")}
+                             + QVector<QString>(40, QStringLiteral("Right")).toList());
+        QTest::qSleep(1 + random.bounded(longestWaitUs) / 1000);
+        program.process.kill();
+        QVERIFY(program.process.waitForFinished());
+
+        const QByteArray text = withPlainLineEnds(readFile(ProgramProcess::settingsFile()));
+        QVERIFY2(text.startsWith("[settings]\n") && text.endsWith('\n'), text.constData());
+        QVERIFY2(text.contains("\nkept=as it was\n"), text.constData());
+        QVERIFY2(text.contains("\nZone3Color=0 0 255\n"), text.constData());
+        bool isNumber = false;
+        const int brightness = ProgramProcess::stored("brightlevel").toInt(&isNumber);
+        QVERIFY(isNumber && brightness >= 0 && brightness <= 100);
+    }
+    QVERIFY(program.startAndServe());
+    QVERIFY(!QFileInfo::exists(ProgramProcess::settingsFile() + QStringLiteral(".damaged")));
+}
+
+QTEST_MAIN(TestKills)
+#include "tst_kills.moc"
