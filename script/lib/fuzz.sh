@@ -48,7 +48,7 @@ fuzz() {
     throw_away_home
     export QT_QPA_PLATFORM=offscreen QT_ACCESSIBILITY=0
     export ASAN_OPTIONS=detect_leaks=1:detect_stack_use_after_return=1:quarantine_size_mb=32
-    export LSAN_OPTIONS=suppressions=$root/fuzz/lsan.supp:print_suppressions=0
+    export LSAN_OPTIONS=suppressions=$root/tests/lsan.supp:print_suppressions=0
     export UBSAN_OPTIONS=print_stacktrace=1
     set_apart # the window listens on one port
     if [ ${#apart[@]} -gt 0 ]; then
