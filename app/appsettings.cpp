@@ -18,27 +18,45 @@ QString workPath(const SettingKey &key)
 
 /// How long a write waits for another process that is writing the same file; that takes
 /// milliseconds.
-constexpr int longestWaitMs = 100;
-/// After so long a lock without its owner's name is that of a process that was killed before it
-/// could write it; and how long a write waits for that.
-constexpr int namelessForMs = 300;
-constexpr int namelessWaitMs = 1000;
+constexpr int longestWaitMs = 300;
+/// After so long a lock may be one that a killed process has left. The system knows better: it
+/// does not let anybody remove the lock of a process that lives.
+constexpr int abandonedAfterMs = 200;
 
 /// Whether another process does not get done with writing the file. QSettings itself would wait
 /// for it for half a minute, and the window with it.
 bool isHeld(const QString &path)
 {
-    const QFileInfo file(path + QStringLiteral(".lock"));
-    if (!file.exists()) {
+    const QString lockPath = path + QStringLiteral(".lock");
+    if (!QFileInfo::exists(lockPath)) {
         return false; // as nearly always; to take the lock would double the time of a write
     }
-    QLockFile lock(file.filePath());
-    const bool nameless = file.size() == 0;
-    if (nameless) {
-        lock.setStaleLockTime(namelessForMs);
+    QLockFile lock(lockPath);
+    lock.setStaleLockTime(abandonedAfterMs);
+    return !lock.tryLock(longestWaitMs) && lock.error() == QLockFile::LockFailedError;
+}
+
+/// The lock, and what a file is rounded up to.
+constexpr int roomBesideTheFile = 16 * 1024;
+
+/// Whether the disk can take the file a second time. On Windows QSettings would leave its lock
+/// behind when it cannot be written, and wait for it for ever after.
+bool hasRoom(const QString &path)
+{
+    QFile probe(path + QStringLiteral(".room"));
+    if (!probe.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+        return true; // no question of room
     }
-    return !lock.tryLock(nameless ? namelessWaitMs : longestWaitMs)
-           && lock.error() == QLockFile::LockFailedError;
+    const QByteArray bytes(static_cast<int>(QFileInfo(path).size()) + roomBesideTheFile, 'x');
+    const bool fits = probe.write(bytes) == bytes.size();
+    probe.remove();
+    return fits;
+}
+
+/// Whether QSettings can be trusted with a write: it comes back soon, and another time it can.
+bool isReadyForWriting(const QString &path)
+{
+    return !isHeld(path) && hasRoom(path);
 }
 
 /// An existing file that cannot be opened: QSettings itself stays silent about it when reading.
@@ -94,7 +112,7 @@ QVariant AppSettings::readSetting(const SettingKey &key) const
 
 void AppSettings::writeSetting(const SettingKey &key, const QVariant &value) const
 {
-    if (isHeld(settingsIniPath)) {
+    if (!isReadyForWriting(settingsIniPath)) {
         report(WriteSettings, settingsIniPath, QSettings::AccessError);
         return;
     }
@@ -119,7 +137,7 @@ QVariant AppSettings::readBranding(const SettingKey &key) const
 
 void AppSettings::writeWorkQueue(const SettingKey &key, const QVariant &value) const
 {
-    if (isHeld(workIniPath)) {
+    if (!isReadyForWriting(workIniPath)) {
         report(WriteWork, workIniPath, QSettings::AccessError);
         return;
     }

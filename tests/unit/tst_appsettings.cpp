@@ -350,6 +350,7 @@ void TestAppSettings::fileHeldByAnotherWriter()
     QVERIFY(other.tryLock());
     QTest::ignoreMessage(
         QtDebugMsg, qPrintable(QStringLiteral("Cannot write file: ") + settings->settingsIni()));
+    QTest::qWait(500); // long enough to be taken for a lock that was left
     QElapsedTimer time;
     time.start();
     settings->writeSetting(SettingKeys::effects, 2);
