@@ -4,6 +4,7 @@
 #include "tests/support/testsystem.h"
 
 #include <QRegularExpression>
+#include <QTest>
 
 namespace {
 
@@ -80,7 +81,14 @@ void ProgramWindow::press(const QStringList &keys)
 
 QPoint ProgramWindow::onScreen(QWidget &twin, const char *name, const QPoint &offset)
 {
-    const QRect place = geometry();
+    QRect place;
+    // The tool stumbles over windows that go while it looks at all there are.
+    if (!QTest::qWaitFor([&place] {
+            place = geometry();
+            return !place.isEmpty();
+        })) {
+        qFatal("the program shows no window to click on");
+    }
     twin.resize(place.size());
     twin.grab(); // lays everything out without showing it
     const auto *const target = widget<QWidget>(twin, name);
