@@ -25,7 +25,7 @@ constexpr int abandonedAfterMs = 200;
 
 /// Whether another process does not get done with writing the file. QSettings itself would wait
 /// for it for half a minute, and the window with it.
-bool isHeld(const QString &path)
+bool isHeld(const QString &path, int patienceMs)
 {
     const QString lockPath = path + QStringLiteral(".lock");
     if (!QFileInfo::exists(lockPath)) {
@@ -33,30 +33,27 @@ bool isHeld(const QString &path)
     }
     QLockFile lock(lockPath);
     lock.setStaleLockTime(abandonedAfterMs);
-    return !lock.tryLock(longestWaitMs) && lock.error() == QLockFile::LockFailedError;
+    return !lock.tryLock(patienceMs) && lock.error() == QLockFile::LockFailedError;
 }
 
 /// The lock, and what a file is rounded up to.
-constexpr int roomBesideTheFile = 16 * 1024;
+constexpr qint64 roomBesideTheFile = 16 * 1024;
 
-/// Whether the disk can take the file a second time. On Windows QSettings would leave its lock
-/// behind when it cannot be written, and wait for it for ever after.
+/// Whether the disk can take the file a second time. On Windows a lock that cannot be written stays
+/// behind with the process that took it, and QSettings waits for it for ever after.
 bool hasRoom(const QString &path)
 {
     QFile probe(path + QStringLiteral(".room"));
     if (!probe.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         return true; // no question of room
     }
-    const QByteArray bytes(static_cast<int>(QFileInfo(path).size()) + roomBesideTheFile, 'x');
-    const bool fits = probe.write(bytes) == bytes.size();
+    const QByteArray block(roomBesideTheFile, 'x');
+    qint64 left = QFileInfo(path).size() + roomBesideTheFile;
+    while (left > 0 && probe.write(block) == block.size()) {
+        left -= block.size();
+    }
     probe.remove();
-    return fits;
-}
-
-/// Whether QSettings can be trusted with a write: it comes back soon, and another time it can.
-bool isReadyForWriting(const QString &path)
-{
-    return !isHeld(path) && hasRoom(path);
+    return left <= 0;
 }
 
 /// An existing file that cannot be opened: QSettings itself stays silent about it when reading.
@@ -112,8 +109,8 @@ QVariant AppSettings::readSetting(const SettingKey &key) const
 
 void AppSettings::writeSetting(const SettingKey &key, const QVariant &value) const
 {
-    if (!isReadyForWriting(settingsIniPath)) {
-        report(WriteSettings, settingsIniPath, QSettings::AccessError);
+    QDir().mkpath(companyDirPath);
+    if (!isReadyForWriting(WriteSettings, settingsIniPath)) {
         return;
     }
     const auto settings = openSettings();
@@ -137,8 +134,7 @@ QVariant AppSettings::readBranding(const SettingKey &key) const
 
 void AppSettings::writeWorkQueue(const SettingKey &key, const QVariant &value) const
 {
-    if (!isReadyForWriting(workIniPath)) {
-        report(WriteWork, workIniPath, QSettings::AccessError);
+    if (!isReadyForWriting(WriteWork, workIniPath)) {
         return;
     }
     QSettings settings(workIniPath, QSettings::IniFormat);
@@ -162,6 +158,17 @@ QVariant AppSettings::readFrom(Access access, const QString &path, const Setting
     return settings.value(settingsPath(key), QVariant());
 }
 
+bool AppSettings::isReadyForWriting(Access access, const QString &path) const
+{
+    const bool wasInTrouble = reported->at(access) == QSettings::AccessError;
+    // Room first: looking for it takes no lock.
+    if (hasRoom(path) && !isHeld(path, wasInTrouble ? 0 : longestWaitMs)) {
+        return true;
+    }
+    report(access, path, QSettings::AccessError);
+    return false;
+}
+
 void AppSettings::report(Access access, const QSettings &settings) const
 {
     settings.childKeys(); // parses every section: damage is found now, not after a write
@@ -170,8 +177,8 @@ void AppSettings::report(Access access, const QSettings &settings) const
         status = QSettings::AccessError;
     }
     // What could not be written waits for the next that uses the file, be it to read.
-    const bool reads = access == ReadSettings || access == ReadBranding;
-    if (reads && status == QSettings::AccessError && !isUnreadable(settings.fileName())) {
+    if (access == ReadSettings && status == QSettings::AccessError
+        && !isUnreadable(settings.fileName())) {
         status = QSettings::NoError;
     }
     report(access, settings.fileName(), status);

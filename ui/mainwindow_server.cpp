@@ -15,8 +15,8 @@
 
 namespace {
 
-/// How long clients wait while the system is out of handles.
-constexpr int handlesReturnMs = 250;
+/// How long clients wait while the system hands nobody over, for want of handles as a rule.
+constexpr int acceptAgainMs = 250;
 
 } // namespace
 
@@ -39,12 +39,12 @@ void MainWindow::acceptAgain(QAbstractSocket::SocketError error)
     // Qt stops accepting at the first failure, be it one client that left too early, and from then
     // on tells of that failure whenever the queue is empty.
     const bool isNews = !std::exchange(clientAccepted, false);
-    if (isNews && !std::exchange(acceptingFailed, true)) {
+    const bool again = isNews && std::exchange(acceptingFailed, true);
+    if (isNews && !again) {
         qDebug().noquote() << "Cannot accept a client:" << serviceServer->errorString();
     }
-    const bool outOfHandles = isNews && error == QAbstractSocket::SocketResourceError;
-    QTimer::singleShot(outOfHandles ? handlesReturnMs : 0, serviceServer,
-                       &QTcpServer::resumeAccepting);
+    const bool wait = isNews && (again || error == QAbstractSocket::SocketResourceError);
+    QTimer::singleShot(wait ? acceptAgainMs : 0, serviceServer, &QTcpServer::resumeAccepting);
 }
 
 void MainWindow::sendFortune()

@@ -13,6 +13,9 @@ constexpr const char *threeZonesSettings =
     "Zone2Color=0 255 0\nZone3Color=0 0 255\nStripeLid=1 2 3\n";
 const QString threeZones = QStringLiteral("4026597120,4043309311,4076797952,4077060354,0");
 
+/// The same after off and on, which leaves the stripe dark.
+const QString threeZonesAgain = QStringLiteral("4026597120,4043309311,4076797952,4076863488,0");
+
 /// Settings are applied a second after the window was made.
 constexpr int appliedAfterMs = 2000;
 

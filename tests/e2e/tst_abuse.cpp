@@ -1,4 +1,5 @@
 #include "system/testing/resourceusage.h"
+#include "system/testing/roughhandling.h"
 #include "tests/e2e/programlines.h"
 #include "tests/support/programprocess.h"
 #include "tests/support/programtwin.h"
@@ -11,6 +12,8 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTest>
+
+#include <algorithm>
 
 namespace {
 
@@ -80,7 +83,7 @@ private:
 
 void TestAbuse::initTestCase()
 {
-    TestSystem::raiseHandleLimit();
+    RoughHandling::raiseHandleLimit();
     ProgramTwin::takeOnItsLooks();
 }
 
@@ -128,6 +131,9 @@ void TestAbuse::seeNothingKept(const ResourceUsage &before) const
 void TestAbuse::connectionsThatCloseAtOnce()
 {
     startServing();
+    if (QTest::currentTestFailed()) {
+        return;
+    }
     const auto comeAndGo = [](int clients) {
         for (int client = 0; client < clients; ++client) {
             auto socket = connected();
@@ -151,6 +157,9 @@ void TestAbuse::connectionsThatCloseAtOnce()
 void TestAbuse::connectionsHeldOpen()
 {
     startServing();
+    if (QTest::currentTestFailed()) {
+        return;
+    }
     const ResourceUsage before = usage();
     Sockets held;
     for (int client = 0; client < heldOpen; ++client) {
@@ -175,12 +184,15 @@ void TestAbuse::connectionsHeldOpen()
 void TestAbuse::halfOpenConnections()
 {
     startServing();
+    if (QTest::currentTestFailed()) {
+        return;
+    }
     const ResourceUsage before = usage();
     Sockets sockets;
     for (int client = 0; client < halfOpen; ++client) {
         sockets.push_back(connected());
         QVERIFY(sockets.back());
-        TestSystem::shutDownWriting(sockets.back()->socketDescriptor());
+        RoughHandling::shutDownWriting(sockets.back()->socketDescriptor());
         if (client % 20 == 0) {
             QCOMPARE(ServiceClient::readLine(), Lines::threeZones);
         }
@@ -196,6 +208,9 @@ void TestAbuse::halfOpenConnections()
 void TestAbuse::junkBeforeReading()
 {
     startServing();
+    if (QTest::currentTestFailed()) {
+        return;
+    }
     const ResourceUsage before = usage();
     const QByteArray junk(junkBytes, '\xa5');
     Sockets sockets;
@@ -255,13 +270,13 @@ void TestAbuse::outOfHandles()
         QTest::qWait(1000);
     }
     const qint64 process = program->process.processId();
-    if (!TestSystem::setMoreHandlesAllowed(process, false)) {
+    if (!RoughHandling::setMoreHandlesAllowed(process, false)) {
         QSKIP("this system does not take handles away");
     }
     auto waiting = connected(); // by the system; nobody can take it in
     QVERIFY(waiting);
     QVERIFY(!waiting->waitForReadyRead(1500));
-    QVERIFY(TestSystem::setMoreHandlesAllowed(process, true));
+    QVERIFY(RoughHandling::setMoreHandlesAllowed(process, true));
     QTRY_COMPARE(waiting->state(), QAbstractSocket::UnconnectedState);
     QCOMPARE(ServiceClient::lineOf(waiting->readAll()), Lines::off);
     QElapsedTimer time;

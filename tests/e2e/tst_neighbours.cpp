@@ -12,15 +12,16 @@
 #include <QRandomGenerator>
 #include <QTest>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int rounds = 12;
 /// What a neighbour that says nothing may cost whoever waits for an answer: 100 ms each, and a busy
 /// machine.
 constexpr int answersWithinMs = 5000;
-
-/// The three zones after off and on, which leaves the stripe dark.
-const QString lit = QStringLiteral("4026597120,4043309311,4076797952,4076863488,0");
+/// The program looks into the segment once a second.
+constexpr int seenAfterMs = 2000;
 
 QByteArray noise(QRandomGenerator &random, int size)
 {
@@ -83,7 +84,7 @@ void TestNeighbours::useIt() const
     QTRY_COMPARE_WITH_TIMEOUT(ServiceClient::readLine(), Lines::off, answersWithinMs);
     QTRY_COMPARE(ProgramProcess::stored("backlight_on"), QStringLiteral("false"));
     twin->click("backlight_on");
-    QTRY_COMPARE_WITH_TIMEOUT(ServiceClient::readLine(), lit, answersWithinMs);
+    QTRY_COMPARE_WITH_TIMEOUT(ServiceClient::readLine(), Lines::threeZonesAgain, answersWithinMs);
     QTRY_COMPARE(ProgramProcess::stored("backlight_on"), QStringLiteral("true"));
     QCOMPARE(program->process.state(), QProcess::Running);
 }
@@ -110,7 +111,7 @@ void TestNeighbours::onTheInstanceSocket()
         useIt();
         QElapsedTimer answer;
         answer.start();
-        QCOMPARE(ServiceClient::readLine(), lit);
+        QCOMPARE(ServiceClient::readLine(), Lines::threeZonesAgain);
         QVERIFY2(answer.elapsed() < answersWithinMs, qPrintable(QString::number(answer.elapsed())));
     }
     QCOMPARE(ProgramWindow::shown(), window); // the one window, as a genuine start leaves it
@@ -126,9 +127,18 @@ void TestNeighbours::inTheCompanionSegment()
         QByteArray(8, '\0'), noise(random, 3),    noise(random, 1000),
     };
     CompanionProcess companion;
+    const auto followsTheCompanion = [&companion] {
+        return companion.publish(QStringLiteral("lit,50")) && QTest::qWaitFor([] {
+                   return ProgramProcess::stored("brightlevel") == QLatin1String("50");
+               })
+               && companion.publish(QStringLiteral("lit,100")) && QTest::qWaitFor([] {
+                      return ProgramProcess::stored("brightlevel") == QLatin1String("100");
+                  });
+    };
+    QVERIFY(followsTheCompanion());
     for (const QByteArray &bytes : contents) {
         QVERIFY2(companion.publishBytes(bytes, bytes.size()), companion.error());
-        QTest::qWait(1200); // the program looks once a second
+        QTest::qWait(seenAfterMs);
         QVERIFY(companion.lock());
         useIt(); // nobody waits for the lock
         QVERIFY(companion.unlock());
@@ -136,9 +146,10 @@ void TestNeighbours::inTheCompanionSegment()
     }
     // One that can be read, but is on no scale.
     QVERIFY2(companion.publish(QStringLiteral("lit,2147483647")), companion.error());
-    QTest::qWait(1200);
+    QTest::qWait(seenAfterMs);
     useIt();
     QCOMPARE(ProgramProcess::stored("brightlevel"), QStringLiteral("100"));
+    QVERIFY(followsTheCompanion());
 }
 
 QTEST_MAIN(TestNeighbours)

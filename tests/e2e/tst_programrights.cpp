@@ -1,12 +1,12 @@
 #include "tests/support/guitest.h"
 #include "tests/support/programprocess.h"
+#include "tests/support/programtwin.h"
 #include "tests/support/programwindow.h"
 #include "tests/support/serviceclient.h"
 #include "tests/support/standins.h"
 #include "tests/support/testsystem.h"
 #include "tests/support/testwindow.h"
 #include "tests/support/versionserver.h"
-#include "ui/darkstyle.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -83,10 +83,7 @@ private:
 
 void TestProgramRights::initTestCase()
 {
-    QApplication::setStyle(new DarkStyle);
-    QFont font = QApplication::font();
-    font.setPixelSize(12);
-    QApplication::setFont(font);
+    ProgramTwin::takeOnItsLooks();
 }
 
 void TestProgramRights::init()

@@ -1,9 +1,9 @@
 #include "tests/e2e/programlines.h"
 #include "tests/support/programprocess.h"
+#include "tests/support/programtwin.h"
 #include "tests/support/programwindow.h"
 #include "tests/support/serviceclient.h"
 #include "tests/support/testwindow.h"
-#include "ui/darkstyle.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -106,10 +106,7 @@ private:
 
 void TestZoneColour::initTestCase()
 {
-    QApplication::setStyle(new DarkStyle);
-    QFont font = QApplication::font();
-    font.setPixelSize(12);
-    QApplication::setFont(font);
+    ProgramTwin::takeOnItsLooks();
 }
 
 void TestZoneColour::init()

@@ -1,11 +1,11 @@
 #include "tests/support/smalldisk.h"
 
+#include "tests/support/guitest.h"
 #include "tests/support/programprocess.h"
 #include "tests/support/testsystem.h"
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 std::unique_ptr<SmallDisk> SmallDisk::underTheSettings()
 {
@@ -22,14 +22,26 @@ SmallDisk::SmallDisk(const QString &mountPoint, const QString &settingsFolder)
     : disk(mountPoint)
     , folder(settingsFolder)
 {
+    clear(); // of what a test has left that was ended in the middle
     TestSystem::runDesktopTool(QStringLiteral("ln"),
                                {QStringLiteral("-sfn"), disk, TestSystem::pathOnDesktop(folder)});
-    if (!QFileInfo(folder).isDir()) {
+    writeFile(filler(), "x");
+    const QByteArray seen =
+        TestSystem::runDesktopTool(QStringLiteral("cat"), {disk + QStringLiteral("/filler")});
+    makeRoom();
+    if (seen != "x") {
         qFatal("the small disk is not at %s", qPrintable(folder));
     }
 }
 
 SmallDisk::~SmallDisk()
+{
+    clear();
+    TestSystem::runDesktopTool(QStringLiteral("rm"),
+                               {QStringLiteral("-f"), TestSystem::pathOnDesktop(folder)});
+}
+
+void SmallDisk::clear() const
 {
     setWritable(true);
     for (const char *entry : {"filler", "Lumikey"}) {
@@ -37,8 +49,6 @@ SmallDisk::~SmallDisk()
             QStringLiteral("rm"),
             {QStringLiteral("-rf"), disk + QLatin1Char('/') + QLatin1String(entry)});
     }
-    TestSystem::runDesktopTool(QStringLiteral("rm"),
-                               {QStringLiteral("-f"), TestSystem::pathOnDesktop(folder)});
 }
 
 void SmallDisk::fill() const
@@ -48,7 +58,11 @@ void SmallDisk::fill() const
         qFatal("cannot fill the small disk");
     }
     const QByteArray page(4096, 'x');
-    while (file.write(page) == page.size()) {
+    constexpr int farTooMany = 1000;
+    for (int pages = 0; file.write(page) == page.size(); ++pages) {
+        if (pages == farTooMany) {
+            qFatal("%s is no small disk", qPrintable(folder));
+        }
     }
 }
 

@@ -22,6 +22,7 @@ public:
 
 private:
     SmallDisk(const QString &mountPoint, const QString &settingsFolder);
+    void clear() const;
     QString filler() const { return folder + QStringLiteral("/filler"); }
 
     QString disk; ///< as the desktop's tools name it

@@ -6,7 +6,6 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-#include <memory>
 #include <optional>
 
 /// What the end-to-end tests ask of the system itself, past the program's own door to it. One
@@ -36,23 +35,9 @@ QStringList commandWithRights(bool elevated, const QString &program);
 /// pipe without a buffer, as the toolkit makes them, takes it along.
 bool messagesOutliveTheirSender();
 
-/// Lets this process have as many files and sockets open as the system gives to anyone.
-void raiseHandleLimit();
-
-/// Whether a running process may have more handles than it has. False where the system cannot
-/// forbid it.
-bool setMoreHandlesAllowed(qint64 processId, bool allowed);
-
 /// A command that becomes the program named behind it, in a network that has no addresses; empty
 /// where the system has none such.
 QStringList commandWithoutNetwork();
-
-/// Sends no more, and goes on reading.
-void shutDownWriting(qintptr socketDescriptor);
-
-/// Opens a file so that nobody else can, until what is returned goes; null where the system lets
-/// everybody in.
-std::shared_ptr<void> holdAlone(const QString &path);
 
 /// The path of a file as the tools of the desktop name it.
 QString pathOnDesktop(const QString &path);

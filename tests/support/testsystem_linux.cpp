@@ -4,8 +4,6 @@
 
 #include <QProcess>
 
-#include <sys/resource.h>
-#include <sys/socket.h>
 #include <unistd.h>
 
 namespace {
@@ -68,33 +66,6 @@ bool TestSystem::messagesOutliveTheirSender()
     return true;
 }
 
-void TestSystem::raiseHandleLimit()
-{
-    rlimit limit = {};
-    if (::getrlimit(RLIMIT_NOFILE, &limit) == 0) {
-        limit.rlim_cur = limit.rlim_max;
-        ::setrlimit(RLIMIT_NOFILE, &limit);
-    }
-}
-
-bool TestSystem::setMoreHandlesAllowed(qint64 processId, bool allowed)
-{
-    const auto process = static_cast<pid_t>(processId);
-    rlimit limit = {};
-    if (::prlimit(process, RLIMIT_NOFILE, nullptr, &limit) != 0) {
-        return false;
-    }
-    // The limit is on the numbers, and a new handle takes the lowest free one.
-    const QStringList used = QDir(QStringLiteral("/proc/%1/fd").arg(processId))
-                                 .entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
-    rlim_t lowestFree = 0;
-    while (used.contains(QString::number(lowestFree))) {
-        ++lowestFree;
-    }
-    limit.rlim_cur = allowed ? limit.rlim_max : lowestFree;
-    return ::prlimit(process, RLIMIT_NOFILE, &limit, nullptr) == 0;
-}
-
 QStringList TestSystem::commandWithoutNetwork()
 {
     QStringList command{QStringLiteral("unshare"), QStringLiteral("--net")};
@@ -104,16 +75,6 @@ QStringList TestSystem::commandWithoutNetwork()
     return command << QStringLiteral("sh") << QStringLiteral("-c")
                    << QStringLiteral(
                           "ip link set lo up && ip addr flush dev lo && exec \"$0\" \"$@\"");
-}
-
-void TestSystem::shutDownWriting(qintptr socketDescriptor)
-{
-    ::shutdown(static_cast<int>(socketDescriptor), SHUT_WR);
-}
-
-std::shared_ptr<void> TestSystem::holdAlone(const QString & /*path*/)
-{
-    return nullptr;
 }
 
 QString TestSystem::pathOnDesktop(const QString &path)

@@ -7,10 +7,6 @@
 #include <QStandardPaths>
 #include <QTest>
 
-#include <winsock2.h>
-
-#include <windows.h>
-
 namespace {
 
 const QString runKey =
@@ -101,32 +97,9 @@ bool TestSystem::messagesOutliveTheirSender()
     return false;
 }
 
-void TestSystem::raiseHandleLimit() {}
-
-bool TestSystem::setMoreHandlesAllowed(qint64 /*processId*/, bool /*allowed*/)
-{
-    return false;
-}
-
 QStringList TestSystem::commandWithoutNetwork()
 {
     return {};
-}
-
-void TestSystem::shutDownWriting(qintptr socketDescriptor)
-{
-    ::shutdown(static_cast<SOCKET>(socketDescriptor), SD_SEND);
-}
-
-std::shared_ptr<void> TestSystem::holdAlone(const QString &path)
-{
-    const HANDLE file =
-        ::CreateFileW(reinterpret_cast<LPCWSTR>(QDir::toNativeSeparators(path).utf16()),
-                      GENERIC_READ, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE) {
-        qFatal("cannot hold %s", qPrintable(path));
-    }
-    return {file, ::CloseHandle};
 }
 
 QString TestSystem::pathOnDesktop(const QString &path)

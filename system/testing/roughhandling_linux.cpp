@@ -1,0 +1,43 @@
+#include "system/testing/roughhandling.h"
+
+#include <QDir>
+
+#include <sys/resource.h>
+#include <sys/socket.h>
+
+void RoughHandling::raiseHandleLimit()
+{
+    rlimit limit = {};
+    if (::getrlimit(RLIMIT_NOFILE, &limit) == 0) {
+        limit.rlim_cur = limit.rlim_max;
+        ::setrlimit(RLIMIT_NOFILE, &limit);
+    }
+}
+
+bool RoughHandling::setMoreHandlesAllowed(qint64 processId, bool allowed)
+{
+    const auto process = static_cast<pid_t>(processId);
+    rlimit limit = {};
+    if (::prlimit(process, RLIMIT_NOFILE, nullptr, &limit) != 0) {
+        return false;
+    }
+    // The limit is on the numbers, and a new handle takes the lowest free one.
+    const QStringList used = QDir(QStringLiteral("/proc/%1/fd").arg(processId))
+                                 .entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
+    rlim_t lowestFree = 0;
+    while (used.contains(QString::number(lowestFree))) {
+        ++lowestFree;
+    }
+    limit.rlim_cur = allowed ? limit.rlim_max : lowestFree;
+    return ::prlimit(process, RLIMIT_NOFILE, &limit, nullptr) == 0;
+}
+
+void RoughHandling::shutDownWriting(qintptr socketDescriptor)
+{
+    ::shutdown(static_cast<int>(socketDescriptor), SHUT_WR);
+}
+
+std::shared_ptr<void> RoughHandling::holdAlone(const QString & /*path*/)
+{
+    return nullptr;
+}
