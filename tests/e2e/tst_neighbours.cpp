@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr int rounds = 12;
+constexpr int rounds = 8;
 /// What a neighbour that says nothing may cost whoever waits for an answer: 100 ms each, and a busy
 /// machine.
 constexpr int answersWithinMs = 5000;
@@ -121,10 +121,8 @@ void TestNeighbours::inTheCompanionSegment()
 {
     QRandomGenerator random(7);
     const QList<QByteArray> contents{
-        noise(random, 4),    noise(random, 64),   noise(random, 60'000),
-        lie(0xffffffff),     lie(0x7ffffffe),     lie(11),
-        lie(0xfffffff0),     QByteArray(1, '\0'), QByteArray(64, '\xff'),
-        QByteArray(8, '\0'), noise(random, 3),    noise(random, 1000),
+        noise(random, 3), noise(random, 64), noise(random, 60'000),  lie(0xffffffff),
+        lie(0x7ffffffe),  lie(11),           QByteArray(64, '\xff'), QByteArray(1, '\0'),
     };
     CompanionProcess companion;
     const auto followsTheCompanion = [&companion] {
