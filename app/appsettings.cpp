@@ -37,7 +37,7 @@ bool isHeld(const QString &path, int patienceMs)
 }
 
 /// The lock, and what a file is rounded up to.
-constexpr qint64 roomBesideTheFile = 16 * 1024;
+constexpr qint64 roomBesideTheFile = qint64{16} * 1024;
 
 /// Whether the disk can take the file a second time. On Windows a lock that cannot be written stays
 /// behind with the process that took it, and QSettings waits for it for ever after.

@@ -25,7 +25,7 @@ constexpr int junkBytes = 4 * 1024 * 1024;
 /// So many of those who misbehave between two honest clients.
 constexpr int betweenHonest = 100;
 /// What a heap may keep of it all.
-constexpr qint64 memoryKept = 1024 * 1024;
+constexpr qint64 memoryKept = qint64{1024} * 1024;
 
 const QHostAddress &address()
 {

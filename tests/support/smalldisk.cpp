@@ -7,6 +7,8 @@
 #include <QDir>
 #include <QFile>
 
+#include <utility>
+
 std::unique_ptr<SmallDisk> SmallDisk::underTheSettings()
 {
     const QString mountPoint = qEnvironmentVariable("LUMIKEY_SMALL_DISK");
@@ -18,9 +20,9 @@ std::unique_ptr<SmallDisk> SmallDisk::underTheSettings()
         new SmallDisk(mountPoint, ProgramProcess::documents() + QStringLiteral("/Corvane")));
 }
 
-SmallDisk::SmallDisk(const QString &mountPoint, const QString &settingsFolder)
-    : disk(mountPoint)
-    , folder(settingsFolder)
+SmallDisk::SmallDisk(QString mountPoint, QString settingsFolder)
+    : disk(std::move(mountPoint))
+    , folder(std::move(settingsFolder))
 {
     clear(); // of what a test has left that was ended in the middle
     TestSystem::runDesktopTool(QStringLiteral("ln"),

@@ -21,7 +21,7 @@ public:
     void setWritable(bool writable) const;
 
 private:
-    SmallDisk(const QString &mountPoint, const QString &settingsFolder);
+    SmallDisk(QString mountPoint, QString settingsFolder);
     void clear() const;
     QString filler() const { return folder + QStringLiteral("/filler"); }
 
