@@ -34,6 +34,7 @@ private slots:
     void whatTheFileHoldsIsKept_data();
     void whatTheFileHoldsIsKept();
     void foreignKeysStay();
+    void keyThatQtCannotWrite();
     void branding();
     void missingBranding();
     void workQueue();
@@ -208,6 +209,23 @@ void TestAppSettings::foreignKeysStay()
     QVERIFY(settingsText().contains("other=7"));
     QVERIFY(settingsText().contains("[strange]"));
     QVERIFY(settingsText().contains("brightlevel=5"));
+}
+
+// Qt writes the slash at the end of a key as a backslash, which then hides the equals sign.
+void TestAppSettings::keyThatQtCannotWrite()
+{
+    writeFile(settings->settingsIni(), "[settings]\nother/=7\nZone1Color=1 2 3\n");
+    settings->writeSetting(SettingKeys::brightLevel, 5);
+    QVERIFY(settingsText().contains("other\\=7"));
+
+    const QByteArray written = settingsText() + "\n"; // to have it read anew, as at the next start
+    writeFile(settings->settingsIni(), written);
+    QTest::ignoreMessage(QtDebugMsg,
+                         qPrintable(QStringLiteral("Malformed file: ") + settings->settingsIni()));
+    settings->writeSetting(SettingKeys::effects, 3);
+    QCOMPARE(readFile(settings->settingsIni() + QStringLiteral(".damaged")), written);
+    QCOMPARE(settings->readSetting(SettingKeys::leftColour).toString(), QStringLiteral("1 2 3"));
+    QCOMPARE(settings->readSetting(SettingKeys::brightLevel).toInt(), 5);
 }
 
 void TestAppSettings::branding()
