@@ -1,12 +1,6 @@
 // Follows Lumikey's lighting: prints a line for each change. Stands on Qt 5's Core and Network.
-#include <QByteArrayList>
-#include <QCoreApplication>
-#include <QDataStream>
-#include <QHostAddress>
-#include <QStringList>
-#include <QTcpSocket>
-#include <QThread>
-#include <QVector>
+#include <QtCore>
+#include <QtNetwork>
 
 #include <cstdio>
 

@@ -320,6 +320,9 @@ Function un.OfferToRemoveSettings
             They hold your colours, effects and brightness, in $DOCUMENTS\Corvane\${NAME}." \
             /SD IDNO IDNO kept
         Delete "$DOCUMENTS\Corvane\${NAME}\lumikey.ini"
+        ; What the program makes beside it: a damaged file that it put aside, and what a program
+        ; that was killed in the middle of a write leaves.
+        Delete "$DOCUMENTS\Corvane\${NAME}\lumikey.ini.*"
         RMDir "$DOCUMENTS\Corvane\${NAME}"
         RMDir "$DOCUMENTS\Corvane"
         kept:

@@ -93,6 +93,13 @@ make_scratch() {
     scratch=$(mktemp -d "${TMPDIR:-/tmp}/lumikey.XXXXXX")
 }
 
+# own_display_files: gives who has mounts of its own displays of its own. Displays of different
+# networks may get the same number, and who is in yet another network finds them by their files.
+own_display_files() {
+    mkdir -p /tmp/.X11-unix
+    mount -t tmpfs -o mode=1777 displays /tmp/.X11-unix
+}
+
 # start_display [WIDTHxHEIGHT]: a virtual display of 96 DPI with a window manager; sets DISPLAY.
 start_display() {
     local number_file=$scratch/display
