@@ -2,6 +2,7 @@
 #include "ui/darkstyle.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QImage>
 #include <QRegularExpression>
 #include <QResource>
@@ -79,8 +80,41 @@ constexpr std::array rules{
     Rule{"QSlider::handle:disabled", "#1c1c1c"},
     Rule{"QSlider::handle:hover", "#ffffff"},
     Rule{"QCheckBox::indicator:disabled", "rgba(43, 43, 43, 127)"},
+    Rule{"QCheckBox::indicator:unchecked", "icon_checkbox_unchecked.png"},
+    Rule{"QCheckBox::indicator:unchecked:pressed", "icon_checkbox_unchecked_pressed.png"},
+    Rule{"QCheckBox::indicator:unchecked:disabled", "icon_checkbox_unchecked_disabled.png"},
+    Rule{"QCheckBox::indicator:checked", "icon_checkbox_checked.png"},
+    Rule{"QCheckBox::indicator:checked:pressed", "icon_checkbox_checked_pressed.png"},
+    Rule{"QCheckBox::indicator:checked:disabled", "icon_checkbox_checked_disabled.png"},
+    Rule{"QCheckBox::indicator:indeterminate", "icon_checkbox_indeterminate.png"},
+    Rule{"QCheckBox::indicator:indeterminate:pressed", "icon_checkbox_indeterminate_pressed.png"},
+    Rule{"QCheckBox::indicator:indeterminate:disabled", "icon_checkbox_indeterminate_disabled.png"},
     Rule{"QDial", "color: palette(highlight)"},
     Rule{"QDial", "background-color: #cacaca"},
+};
+
+/// Every picture of the resource folder; the sheet uses most, others may be used from outside.
+constexpr std::array pictures{
+    "battery_widget_preview.png",
+    "icon_branch_closed.png",
+    "icon_branch_end.png",
+    "icon_branch_more.png",
+    "icon_branch_open.png",
+    "icon_checkbox_checked.png",
+    "icon_checkbox_checked_disabled.png",
+    "icon_checkbox_checked_pressed.png",
+    "icon_checkbox_indeterminate.png",
+    "icon_checkbox_indeterminate_disabled.png",
+    "icon_checkbox_indeterminate_pressed.png",
+    "icon_checkbox_unchecked.png",
+    "icon_checkbox_unchecked_disabled.png",
+    "icon_checkbox_unchecked_pressed.png",
+    "icon_close.png",
+    "icon_colorpick_disabled.png",
+    "icon_restore.png",
+    "icon_undock.png",
+    "icon_vline.png",
+    "resorces_widget_preview.png", // spelled so
 };
 
 } // namespace
@@ -95,6 +129,9 @@ private slots:
     void sheetRule_data();
     void sheetRule();
     void sheetPicturesExist();
+    void compiledInPicture_data();
+    void compiledInPicture();
+    void checkBoxIndicators();
     void disabledTabVanishes();
     void disabledBarKeepsItsTabs();
 
@@ -150,6 +187,54 @@ void TestStyleSheet::sheetPicturesExist()
         QVERIFY2(!QImage(file).isNull(), qPrintable(url));
     }
     QVERIFY(seen > 20);
+}
+
+void TestStyleSheet::compiledInPicture_data()
+{
+    QTest::addColumn<QString>("path");
+    for (const char *name : pictures) {
+        QTest::newRow(name) << QStringLiteral(":/darkstyle/") + QLatin1String(name);
+    }
+}
+
+void TestStyleSheet::compiledInPicture()
+{
+    QFETCH(QString, path);
+    const QImage image(path);
+    QVERIFY(image.width() >= 32);
+    QCOMPARE(image.width(), image.height());
+    // Something is drawn on a transparent ground.
+    int drawn = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            drawn += qAlpha(image.pixel(x, y)) > 127 ? 1 : 0;
+        }
+    }
+    QVERIFY(drawn > 0 && drawn < image.width() * image.height());
+    QVERIFY(QFileInfo(path).size() <= 4096);
+}
+
+/// Each state of a check box looks different from all others.
+void TestStyleSheet::checkBoxIndicators()
+{
+    QCheckBox box;
+    box.setTristate(true);
+    QVector<QImage> looks;
+    const auto look = [&box, &looks] {
+        looks += box.grab().toImage();
+        QVERIFY(looks.indexOf(looks.last()) == looks.size() - 1);
+    };
+    for (const Qt::CheckState state : {Qt::Unchecked, Qt::PartiallyChecked, Qt::Checked}) {
+        box.setCheckState(state);
+        look();
+        box.setDown(true);
+        look();
+        box.setDown(false);
+        box.setEnabled(false);
+        look();
+        box.setEnabled(true);
+    }
+    QCOMPARE(looks.size(), 9);
 }
 
 void TestStyleSheet::disabledTabVanishes()
