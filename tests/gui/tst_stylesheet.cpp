@@ -1,9 +1,11 @@
+#include "contrast.h"
 #include "tests/support/guitest.h"
 #include "ui/darkstyle.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QImage>
+#include <QMenu>
 #include <QRegularExpression>
 #include <QResource>
 #include <QTabBar>
@@ -58,6 +60,7 @@ constexpr std::array rules{
     Rule{"QScrollBar:vertical", "rgba(25, 25, 25, 127)"},
     Rule{"QGroupBox", "rgba(25, 25, 25, 127)"},
     Rule{"QSplitter::handle", "rgba(25, 25, 25, 127)"},
+    Rule{"QMenu::item", "rgba(25, 25, 25, 127)"},
     Rule{"QMenu::item:selected", "palette(highlight)"},
     Rule{"QTreeView::item:selected", "palette(highlight)"},
     Rule{"QMenu::indicator:non-exclusive:checked", "branding/checkbox_checked.png"},
@@ -93,7 +96,7 @@ constexpr std::array rules{
     Rule{"QDial", "background-color: #cacaca"},
 };
 
-/// Every picture of the resource folder; the sheet uses most, others may be used from outside.
+/// Every picture of the resource folder, whether the sheet uses it or not.
 constexpr std::array pictures{
     "battery_widget_preview.png",
     "icon_branch_closed.png",
@@ -132,6 +135,7 @@ private slots:
     void compiledInPicture_data();
     void compiledInPicture();
     void checkBoxIndicators();
+    void menuIsReadable();
     void disabledTabVanishes();
     void disabledBarKeepsItsTabs();
 
@@ -235,6 +239,26 @@ void TestStyleSheet::checkBoxIndicators()
         box.setEnabled(true);
     }
     QCOMPARE(looks.size(), 9);
+}
+
+void TestStyleSheet::menuIsReadable()
+{
+    QMenu menu;
+    menu.addAction(QStringLiteral("Chosen"));
+    menu.addAction(QStringLiteral("Other"));
+    menu.popup({});
+    menu.setActiveAction(menu.actions().constFirst());
+    QVERIFY(QTest::qWaitForWindowExposed(&menu));
+    const QImage image = menu.grab().toImage();
+    const auto ground = [&menu, &image](int entry) {
+        return image.pixelColor(menu.actionGeometry(menu.actions().at(entry)).topLeft()
+                                + QPoint(3, 3));
+    };
+    QCOMPARE(ground(0), QApplication::palette().color(QPalette::Highlight));
+    // The grey of the bars, as it is over the program's window.
+    QCOMPARE(ground(1), QColor(36, 36, 36));
+    QVERIFY(contrast(Qt::white, ground(1)) >= 4.5);
+    menu.close();
 }
 
 void TestStyleSheet::disabledTabVanishes()
