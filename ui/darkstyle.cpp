@@ -25,6 +25,9 @@ struct PaletteRow
 constexpr QRgb white = qRgb(255, 255, 255);
 constexpr QRgb disabledText = qRgb(127, 127, 127);
 
+/// Property of the application: the font that a style has raised.
+constexpr const char *raisedFont = "darkStyleRaisedFont";
+
 // Order matters: a row for All overwrites what earlier rows have set for Disabled.
 constexpr std::array darkPalette{
     PaletteRow{QPalette::Window, QPalette::All, qRgb(48, 48, 48)},
@@ -97,9 +100,11 @@ void DarkStyle::polish(QApplication *app)
     }
 
     QFont font = QApplication::font();
-    // The point size of a font that was given a pixel size reads as -1.
-    if (font.pointSize() > 0) {
+    // The point size of a font that was given a pixel size reads as -1. Setting the sheet has Qt
+    // polish the application again, and so has every other style, so a raised font is remembered.
+    if (font.pointSize() > 0 && app->property(raisedFont) != QVariant(font)) {
         font.setPointSize(font.pointSize() + 1);
+        app->setProperty(raisedFont, font);
     }
     QApplication::setFont(font);
 

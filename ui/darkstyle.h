@@ -27,7 +27,8 @@ public:
     void polish(QPalette &palette) override;
 
     /// Raises the application font by one point and sets the style sheet. A font with a pixel size
-    /// stays as it is; without the sheet's resource no sheet is set.
+    /// stays as it is, and so does one that has been raised already, by whichever DarkStyle;
+    /// without the sheet's resource no sheet is set.
     void polish(QApplication *app) override;
 
     using QProxyStyle::polish;

@@ -1,11 +1,14 @@
+#include "app/startup.h"
 #include "tests/support/guitest.h"
 #include "ui/darkstyle.h"
 
 #include <QApplication>
+#include <QDesktopWidget>
 #include <QFont>
 #include <QPalette>
 #include <QPointer>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QPushButton>
 #include <QScopeGuard>
 #include <QStyleFactory>
@@ -17,7 +20,36 @@
 
 namespace {
 
+// What this program does instead of its tests.
 constexpr const char *firstStyleWins = "--first-style-wins";
+constexpr const char *installedFont = "--installed-font";
+
+// Exit codes of installedFont, besides the points by which the font has grown.
+constexpr int pixelSizeStood = 100;
+constexpr int sizeChangedAgain = 101;
+
+/// Installs the style as the program does when it starts, then others in its place.
+int growthOfInstalledFont()
+{
+    QFont font = QApplication::font();
+    if (const auto pixelSize = fontPixelSize(QApplication::desktop()->logicalDpiX())) {
+        font.setPixelSize(*pixelSize);
+        QApplication::setFont(font);
+    }
+    QApplication::setStyle(new DarkStyle);
+    const QFont shown = QApplication::font();
+    for (int i = 0; i < 3; ++i) {
+        QApplication::setStyle(new DarkStyle);
+        qApp->setStyleSheet(i == 1 ? QString() : qApp->styleSheet() + QLatin1Char('\n'));
+        if (QApplication::font() != shown) {
+            return sizeChangedAgain;
+        }
+    }
+    if (shown.pixelSize() > 0 && shown == font) {
+        return pixelSizeStood;
+    }
+    return shown.pointSize() - font.pointSize();
+}
 
 const QString sheetResource = QStringLiteral(":/darkstyle/darkstyle.qss");
 
@@ -77,6 +109,8 @@ private slots:
 
     void pixelSizeStands();
     void pointSizeGrowsByOne();
+    void fontAtStart_data();
+    void fontAtStart();
     void polishSetsTheSheet();
     void polishWithoutApplication();
 
@@ -238,13 +272,44 @@ void TestDarkStyle::pointSizeGrowsByOne()
     const auto restore =
         qScopeGuard([font = QApplication::font()] { QApplication::setFont(font); });
     QFont font = QApplication::font();
-    font.setPointSize(9);
+    font.setPointSize(30);
     QApplication::setFont(font);
-    DarkStyle style;
-    style.polish(qApp);
-    QCOMPARE(QApplication::font().pointSize(), 10);
-    style.polish(qApp);
-    QCOMPARE(QApplication::font().pointSize(), 11);
+    for (int i = 0; i < 3; ++i) {
+        DarkStyle style;
+        style.polish(qApp);
+        QCOMPARE(QApplication::font().pointSize(), 31);
+        style.polish(qApp);
+        QCOMPARE(QApplication::font().pointSize(), 31);
+    }
+    font.setPointSize(40);
+    QApplication::setFont(font);
+    DarkStyle().polish(qApp);
+    QCOMPARE(QApplication::font().pointSize(), 41);
+}
+
+void TestDarkStyle::fontAtStart_data()
+{
+    QTest::addColumn<int>("dpi");
+    QTest::addColumn<int>("growth"); // in points
+    QTest::newRow("the last DPI with a pixel size") << 336 << pixelSizeStood;
+    QTest::newRow("the first without") << 337 << 1;
+    QTest::newRow("above") << 340 << 1;
+}
+
+/// What becomes of the font in a program that starts as this one does.
+void TestDarkStyle::fontAtStart()
+{
+    QFETCH(int, dpi);
+    QFETCH(int, growth);
+    QProcess program;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("QT_FONT_DPI"), QString::number(dpi));
+    program.setProcessEnvironment(environment);
+    program.setWorkingDirectory(startFolder); // the folder of this test is to be removed
+    program.start(QCoreApplication::applicationFilePath(), {QLatin1String(installedFont)});
+    QVERIFY(program.waitForFinished());
+    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program.exitCode(), growth);
 }
 
 void TestDarkStyle::polishSetsTheSheet()
@@ -270,6 +335,9 @@ int main(int argc, char *argv[])
             DarkStyle::sharedBaseStyle(given) == given && DarkStyle::sharedBaseStyle() == given
             && DarkStyle().baseStyle() == given && DarkStyle::sharedBaseStyle() == given;
         return kept ? 0 : 1;
+    }
+    if (app.arguments().contains(QLatin1String(installedFont))) {
+        return growthOfInstalledFont();
     }
     TestDarkStyle test;
     return QTest::qExec(&test, argc, argv);
