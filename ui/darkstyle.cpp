@@ -25,6 +25,10 @@ struct PaletteRow
 constexpr QRgb white = qRgb(255, 255, 255);
 constexpr QRgb disabledText = qRgb(127, 127, 127);
 
+/// The brightest that disabled text is drawn: the sheet's grey for it, still readable on every
+/// ground that the sheet lays.
+constexpr QRgb brightestDisabledText = qRgb(176, 176, 176);
+
 /// Property of the application: the font that a style has raised.
 constexpr const char *raisedFont = "darkStyleRaisedFont";
 
@@ -113,6 +117,19 @@ void DarkStyle::polish(QApplication *app)
         app->setStyleSheet(QString::fromLatin1(sheet.readAll()));
     }
     app->installEventFilter(this);
+}
+
+void DarkStyle::drawItemText(QPainter *painter, const QRect &rect, int flags,
+                             const QPalette &palette, bool enabled, const QString &text,
+                             QPalette::ColorRole textRole) const
+{
+    QPalette shown = palette;
+    // A widget's own sheet wins over the rules for disabled widgets, so that its text would stay.
+    if (!enabled && textRole != QPalette::NoRole
+        && qGray(palette.color(textRole).rgb()) > qGray(brightestDisabledText)) {
+        shown.setColor(textRole, QColor(brightestDisabledText));
+    }
+    QProxyStyle::drawItemText(painter, rect, flags, shown, enabled, text, textRole);
 }
 
 void DarkStyle::layOutTabs(QTabBar *bar)

@@ -33,6 +33,12 @@ public:
 
     using QProxyStyle::polish;
 
+    /// Draws as the base style does, but no disabled text brighter than the sheet's grey for it,
+    /// whatever colour a widget has of its own.
+    void drawItemText(QPainter *painter, const QRect &rect, int flags, const QPalette &palette,
+                      bool enabled, const QString &text,
+                      QPalette::ColorRole textRole = QPalette::NoRole) const override;
+
     /// Lays the tabs of @p bar out anew, as the sheet wants them: a disabled tab without width, but
     /// the tabs of a bar that is disabled as a whole in their places. Qt does not do so by itself.
     /// To be called after QTabWidget::setTabEnabled(); changes of whole bars this style sees

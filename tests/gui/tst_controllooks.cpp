@@ -1,0 +1,289 @@
+#include "contrast.h"
+#include "formtables.h"
+#include "tests/support/testwindow.h"
+#include "ui/darkstyle.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHash>
+#include <QRadioButton>
+#include <QStyleOptionButton>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QtTest>
+
+namespace {
+
+QString brandingFolder()
+{
+    return QFileInfo(QFINDTESTDATA("../../branding/lumikey_branding.ini")).path();
+}
+
+/// Where a widget draws its text, in its own coordinates.
+QRect textRect(const QWidget &widget)
+{
+    QStyleOptionButton option;
+    option.initFrom(&widget);
+    if (qobject_cast<const QCheckBox *>(&widget)) {
+        return widget.style()->subElementRect(QStyle::SE_CheckBoxContents, &option, &widget);
+    }
+    if (qobject_cast<const QRadioButton *>(&widget)) {
+        return widget.style()->subElementRect(QStyle::SE_RadioButtonContents, &option, &widget);
+    }
+    return widget.rect();
+}
+
+/// What is painted of a text and behind it.
+struct Painted
+{
+    QColor text;   ///< the brightest pixel
+    QColor ground; ///< the most frequent one
+};
+
+Painted paintedText(QWidget &widget)
+{
+    const QRect rect = textRect(widget).adjusted(2, 2, -2, -2);
+    QWidget *const window = widget.window();
+    const QImage image = window->grab(rect.translated(widget.mapTo(window, QPoint()))).toImage();
+    Painted painted = {Qt::black, Qt::black};
+    QHash<QRgb, int> counts;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor colour = image.pixelColor(x, y);
+            const int count = ++counts[colour.rgb()];
+            if (luminance(colour) > luminance(painted.text)) {
+                painted.text = colour;
+            }
+            if (count > counts.value(painted.ground.rgb())) {
+                painted.ground = colour;
+            }
+        }
+    }
+    return painted;
+}
+
+/// A control as the window shows it.
+QImage shown(const QWidget &control)
+{
+    QWidget *const window = control.window();
+    return window->grab(QRect(control.mapTo(window, QPoint()), control.size())).toImage();
+}
+
+/// How many pixels differ so much that the change meets the eye.
+int plainlyChanged(const QImage &before, const QImage &after)
+{
+    int changed = 0;
+    for (int y = 0; y < before.height(); ++y) {
+        for (int x = 0; x < before.width(); ++x) {
+            changed += contrast(before.pixelColor(x, y), after.pixelColor(x, y)) >= 3 ? 1 : 0;
+        }
+    }
+    return changed;
+}
+
+/// Fewer changed pixels are no frame; a field's cursor has some 20.
+constexpr int leastChange = 60;
+
+} // namespace
+
+/// What the controls of the real window show of their state.
+class TestControlLooks : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void disabledTextIsDimmed_data();
+    void disabledTextIsDimmed();
+    void everyFocusedControlIsKnown();
+    void focusIsSeen_data();
+    void focusIsSeen();
+    void currentEntryIsSeen_data();
+    void currentEntryIsSeen();
+
+private:
+    template<class Widget> Widget *get(const char *name) const { return world->get<Widget>(name); }
+    void reveal(QWidget &control) const;
+
+    std::unique_ptr<TestWindow> world;
+};
+
+void TestControlLooks::initTestCase()
+{
+    // The style reads the branding file beside the program.
+    const QString start = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(brandingFolder() + QStringLiteral("/..")));
+    QFont font = QApplication::font();
+    font.setPixelSize(12);
+    QApplication::setFont(font);
+    QApplication::setStyle(new DarkStyle);
+    QVERIFY(QDir::setCurrent(start));
+}
+
+void TestControlLooks::init()
+{
+    world = std::make_unique<TestWindow>();
+    const QDir pictures(brandingFolder());
+    for (const QString &name : pictures.entryList({QStringLiteral("*.png")})) {
+        QVERIFY(QFile::copy(pictures.filePath(name), QStringLiteral("branding/") + name));
+    }
+    world->platform.elevated = true;
+    world->writeSettings("backlight_on=true\nbrightlevel=100\n");
+    MainWindow &window = world->start();
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+}
+
+void TestControlLooks::cleanup()
+{
+    world.reset();
+}
+
+/// Brings the window into a state in which the control can be used.
+void TestControlLooks::reveal(QWidget &control) const
+{
+    if (get<QWidget>("colorpickframe")->isAncestorOf(&control)) {
+        get<QAbstractButton>("colorpick1")->click();
+    }
+    for (const char *name : {"tabWidget", "tabWidget_2"}) {
+        auto *const tabs = get<QTabWidget>(name);
+        for (int page = 0; page < tabs->count(); ++page) {
+            if (tabs->widget(page)->isAncestorOf(&control)) {
+                tabs->setTabVisible(page, true);
+                tabs->setTabEnabled(page, true);
+                tabs->setCurrentIndex(page);
+            }
+        }
+    }
+    control.setEnabled(true);
+    QTRY_VERIFY(control.isVisible());
+    QCoreApplication::processEvents();
+}
+
+void TestControlLooks::disabledTextIsDimmed_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QByteArray>("disabler"); // a button, or the list of effects
+    const auto add = [](const char *disabler, std::initializer_list<const char *> names) {
+        for (const char *name : names) {
+            QTest::addRow("%s by %s", name, disabler) << QByteArray(name) << QByteArray(disabler);
+        }
+    };
+    add("UsePerKeyApp", {"backlight_on", "backlight_off", "CheckBox_AutoDim", "touch_mouse_wake",
+                         "StartHidden_2", "Combo_Effect", "comboDimValue"});
+    add("backlight_off",
+        {"label_9", "label_10", "label_11", "CheckBox_AutoDim", "Combo_Effect", "comboDimValue"});
+    add("Combo_Effect", {"CheckBox_AutoDim", "comboDimValue"});
+}
+
+void TestControlLooks::disabledTextIsDimmed()
+{
+    QFETCH(QByteArray, name);
+    QFETCH(QByteArray, disabler);
+    auto &control = *get<QWidget>(name.constData());
+    const Painted enabled = paintedText(control);
+    if (auto *const effects = qobject_cast<QComboBox *>(get<QWidget>(disabler.constData()))) {
+        effects->setCurrentIndex(1);
+    } else {
+        get<QAbstractButton>(disabler.constData())->click();
+    }
+    QVERIFY(!control.isEnabled());
+    const Painted disabled = paintedText(control);
+
+    QVERIFY(luminance(disabled.text) < luminance(enabled.text));
+    const double difference = contrast(enabled.text, disabled.text);
+    QVERIFY2(difference > 1.3, qPrintable(QString::number(difference)));
+    const double readability = contrast(disabled.text, disabled.ground);
+    QVERIFY2(readability >= 4.5, qPrintable(QString::number(readability)));
+}
+
+/// No control is left out of the rows of focusIsSeen().
+void TestControlLooks::everyFocusedControlIsKnown()
+{
+    QStringList known;
+    for (const char *name : formtables::tabOrder) {
+        known += QLatin1String(name);
+    }
+    QStringList found;
+    for (const auto *candidate : world->window->findChildren<QWidget *>()) {
+        // The lists of combo boxes are windows of their own; the bar of a tab widget stands for it.
+        const bool inWindow = candidate->window() == world->window.get();
+        const bool inBar = qobject_cast<const QTabBar *>(candidate->parentWidget()) != nullptr;
+        if (inWindow && !inBar && candidate->focusPolicy() != Qt::NoFocus) {
+            const bool bar = qobject_cast<const QTabBar *>(candidate) != nullptr;
+            found += (bar ? candidate->parentWidget() : candidate)->objectName();
+        }
+    }
+    found.removeDuplicates();
+    found.sort();
+    known.sort();
+    QCOMPARE(found.join(QLatin1Char(' ')), known.join(QLatin1Char(' ')));
+}
+
+void TestControlLooks::focusIsSeen_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    for (const char *name : formtables::tabOrder) {
+        QTest::newRow(name) << QByteArray(name);
+    }
+}
+
+void TestControlLooks::focusIsSeen()
+{
+    QFETCH(QByteArray, name);
+    auto &control = *get<QWidget>(name.constData());
+    reveal(control);
+    // Somewhere to rest the focus; the title buttons are always there.
+    auto &other = *get<QWidget>(name == "closeButton" ? "minimizeButton" : "closeButton");
+
+    other.setFocus(Qt::TabFocusReason);
+    const QImage resting = shown(control);
+    control.setFocus(Qt::TabFocusReason);
+    const QWidget *const proxy = control.focusProxy();
+    QCOMPARE(QApplication::focusWidget(), proxy ? proxy : &control);
+    const int seen = plainlyChanged(resting, shown(control));
+    QVERIFY2(seen >= leastChange, qPrintable(QString::number(seen)));
+    other.setFocus(Qt::TabFocusReason);
+    QCOMPARE(shown(control), resting);
+}
+
+void TestControlLooks::currentEntryIsSeen_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    for (const char *name : {"comboBox_BasicColors", "Combo_Effect", "comboDimValue"}) {
+        QTest::newRow(name) << QByteArray(name);
+    }
+}
+
+void TestControlLooks::currentEntryIsSeen()
+{
+    QFETCH(QByteArray, name);
+    auto &box = *get<QComboBox>(name.constData());
+    reveal(box);
+    box.showPopup();
+    QAbstractItemView &list = *box.view();
+    QTRY_VERIFY(list.isVisible());
+    list.setCurrentIndex(list.model()->index(1, 0));
+    const auto entry = [&list](int row) {
+        return list.viewport()->grab(list.visualRect(list.model()->index(row, 0))).toImage();
+    };
+    const QImage current = entry(1);
+    QTest::keyClick(&list, Qt::Key_Down);
+    QCOMPARE(list.currentIndex().row(), 2);
+    QVERIFY(entry(1) != current);
+    // Its ground is the highlight.
+    const QColor highlight = QApplication::palette().color(QPalette::Highlight);
+    QCOMPARE(current.pixelColor(1, current.height() / 2), highlight);
+    QCOMPARE(entry(2).pixelColor(1, current.height() / 2), highlight);
+    box.hidePopup();
+}
+
+QTEST_MAIN(TestControlLooks)
+#include "tst_controllooks.moc"
