@@ -19,8 +19,8 @@ constexpr int sixth = 60;
 constexpr int unit = svRange * sixth;
 
 // Up a column a channel grows by the same amount from row to row, so 8.24 fixed point needs only
-// additions. The amount is rounded up; the sum of the errors stays below 2^-16, less than the
-// 1/15300 that separates a result from the next rounding edge above it.
+// additions. The amount is rounded down; the sum of the errors stays below 2^-16, less than the
+// 1/15300 that separates a result from the next rounding edge below it.
 constexpr int fractionBits = 24;
 constexpr quint32 roundingHalf = 1U << (fractionBits - 1);
 
@@ -31,7 +31,7 @@ Columns risePerRow(int weight)
     Columns rise{};
     for (int s = 0; s < squareSize; ++s) {
         const auto share = static_cast<quint64>(unit - s * weight) << fractionBits;
-        rise[static_cast<std::size_t>(s)] = static_cast<quint32>((share + unit - 1) / unit);
+        rise[static_cast<std::size_t>(s)] = static_cast<quint32>(share / unit);
     }
     return rise;
 }
