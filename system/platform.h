@@ -66,6 +66,11 @@ public:
     /// with which listening started; it refuses what does not fit, and clients try again.
     virtual void lengthenListenQueue(qintptr socketDescriptor) = 0;
 
+    /// Lets a click on the task bar minimise a window that is active, where the system does so only
+    /// with windows that say they may be minimised, and a frameless one does not say it.
+    /// @param window a native top-level window of this process
+    virtual void letTaskBarMinimise(quintptr window) = 0;
+
     // Input and sleep
 
     /// The codes pressed since the last call, in whatever window; none where the system does not

@@ -87,6 +87,9 @@ public:
         ::listen(static_cast<int>(socketDescriptor), SOMAXCONN);
     }
 
+    /// It minimises any window.
+    void letTaskBarMinimise(quintptr /*window*/) override {}
+
     KeyPresses keysPressedSinceLastPoll() override
     {
         if (!keyPresses) {

@@ -97,6 +97,13 @@ public:
         ::listen(static_cast<SOCKET>(socketDescriptor), SOMAXCONN);
     }
 
+    void letTaskBarMinimise(quintptr window) override
+    {
+        const auto handle = reinterpret_cast<HWND>(window);
+        ::SetWindowLongPtrW(handle, GWL_STYLE,
+                            ::GetWindowLongPtrW(handle, GWL_STYLE) | WS_MINIMIZEBOX);
+    }
+
     KeyPresses keysPressedSinceLastPoll() override
     {
         KeyPresses presses;

@@ -52,6 +52,9 @@ public:
     /// What the last connection received; empty before the first.
     const QString &lastCommandLine() const { return commandLine; }
 
+    /// Keeps nothing back.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 signals:
     /// Relayed to the colour sample.
     void mouseMovedOnWindow();
@@ -151,6 +154,7 @@ public slots:
     void on_colorpick5_3_clicked();
 
 protected:
+    bool event(QEvent *event) override;
     void childEvent(QChildEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;

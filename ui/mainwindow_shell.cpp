@@ -2,6 +2,8 @@
 
 #include "ui_mainwindow.h"
 
+#include "system/platform.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QChildEvent>
@@ -84,6 +86,20 @@ void MainWindow::SetStyle()
             qApp->setStyleSheet(text);
         }
     }
+}
+
+bool MainWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    return QMainWindow::eventFilter(watched, event);
+}
+
+bool MainWindow::event(QEvent *event)
+{
+    // Each time that the native window is made, or made over: what it was told is then forgotten.
+    if (event->type() == QEvent::WinIdChange && internalWinId() != 0) {
+        platform.letTaskBarMinimise(internalWinId());
+    }
+    return QMainWindow::event(event);
 }
 
 void MainWindow::childEvent(QChildEvent *event)

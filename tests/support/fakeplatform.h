@@ -31,6 +31,11 @@ public:
     {
         createPlatform()->lengthenListenQueue(socketDescriptor);
     }
+    void letTaskBarMinimise(quintptr window) override
+    {
+        minimisable.append(window);
+        createPlatform()->letTaskBarMinimise(window);
+    }
     KeyPresses keysPressedSinceLastPoll() override
     {
         ++polls;
@@ -96,8 +101,9 @@ public:
     // What was asked of it
     int polls = 0;
     std::function<void()> resumeNotice;
-    QVector<int> sleeps;        ///< milliseconds
-    QVector<qint64> letToFront; ///< process ids
+    QVector<int> sleeps;           ///< milliseconds
+    QVector<qint64> letToFront;    ///< process ids
+    QVector<quintptr> minimisable; ///< windows
     int relaunches = 0;
     std::optional<int> ended;
     QStringList launched;
