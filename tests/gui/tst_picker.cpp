@@ -1,5 +1,8 @@
 #include "colorpicker/basiccolours.h"
 #include "colorpicker/colorsample.h"
+#include "colorpicker/hselector.h"
+#include "colorpicker/pickergeometry.h"
+#include "colorpicker/svselector.h"
 #include "lighting/devicewords.h"
 #include "tests/support/testwindow.h"
 
@@ -30,6 +33,8 @@ private slots:
     void enteredTextIsNormalised();
     void typedLetterByLetter_data();
     void typedLetterByLetter();
+    void greyUntilAnotherHue_data();
+    void greyUntilAnotherHue();
     void hexIsEntered();
     void textThatIsNoColourIsStoredAsTyped();
     void copying();
@@ -55,6 +60,32 @@ private:
         QGuiApplication::clipboard()->setText(QString::fromLatin1(text));
         edit->selectAll();
         QTest::keyClick(edit, Qt::Key_V, Qt::ControlModifier);
+    }
+    /// Types a text letter by letter in the place of the old one.
+    static void type(const TestWindow &world, const char *field, const QString &keys)
+    {
+        auto *const edit = world.get<QLineEdit>(field);
+        edit->selectAll();
+        QTest::keyClick(edit, Qt::Key_Delete);
+        QTest::keyClicks(edit, keys);
+    }
+    /// Whether every pixel of the square's picture, as the window shows it, is a grey.
+    static bool squareIsGrey(const TestWindow &world)
+    {
+        using namespace PickerGeometry;
+        const QImage shown = world.get<SVSelector>("svSelector")
+                                 ->grab()
+                                 .toImage()
+                                 .copy(margin, margin, squareSize, squareSize);
+        for (int y = 0; y < shown.height(); ++y) {
+            for (int x = 0; x < shown.width(); ++x) {
+                const QRgb pixel = shown.pixel(x, y);
+                if (qRed(pixel) != qGreen(pixel) || qGreen(pixel) != qBlue(pixel)) {
+                    return false;
+                }
+            }
+        }
+        return true;
     }
 };
 
@@ -222,12 +253,50 @@ void TestPicker::typedLetterByLetter()
     QFETCH(QString, keys);
     TestWindow world;
     open(world, "colorpick1", "Zone1Color=1 2 3\n");
-    auto *const edit = world.get<QLineEdit>("leRGB");
-    edit->selectAll();
-    QTest::keyClick(edit, Qt::Key_Delete);
-    QTest::keyClicks(edit, keys);
-    QTEST(edit->text(), "field");
+    type(world, "leRGB", keys);
+    QTEST(text(world, "leRGB"), "field");
     QTEST(world.get<ColorSample>("colorSample")->color(), "colour");
+}
+
+void TestPicker::greyUntilAnotherHue_data()
+{
+    QTest::addColumn<bool>("byStrip");
+    QTest::newRow("in the strip") << true;
+    QTest::newRow("by typing") << false;
+}
+
+void TestPicker::greyUntilAnotherHue()
+{
+    QFETCH(bool, byStrip);
+    TestWindow world;
+    open(world, "colorpick1", "Zone1Color=0 0 255\n");
+    world.window->show();
+    QVERIFY(QTest::qWaitForWindowActive(world.window.get()));
+    auto *const strip = world.get<HSelector>("hSelector");
+    auto *const square = world.get<SVSelector>("svSelector");
+    QVERIFY(!squareIsGrey(world));
+
+    type(world, "leRGB", QStringLiteral("128 128 128"));
+    QCOMPARE(text(world, "leRGB"), QStringLiteral("128 128 128"));
+    QCOMPARE(text(world, "leHex"), QStringLiteral("808080"));
+    QCOMPARE(strip->hue(), -1);
+    QVERIFY(squareIsGrey(world));
+    // Another place in the square is another grey.
+    QTest::mouseClick(square, Qt::LeftButton, Qt::NoModifier, {200, 57});
+    QCOMPARE(text(world, "leRGB"), QStringLiteral("200 200 200"));
+    QVERIFY(squareIsGrey(world));
+
+    if (byStrip) {
+        QTest::mouseClick(strip, Qt::LeftButton, Qt::NoModifier,
+                          {strip->width() / 2, strip->height() / 2});
+    } else {
+        type(world, "leRGB", QStringLiteral("0 255 0"));
+    }
+    QVERIFY(strip->hue() > 0);
+    QVERIFY(!squareIsGrey(world));
+    const QColor chosen = world.get<ColorSample>("colorSample")->color();
+    QCOMPARE(chosen.hue(), strip->hue());
+    QCOMPARE(text(world, "leHex"), chosen.name().mid(1));
 }
 
 void TestPicker::hexIsEntered()
