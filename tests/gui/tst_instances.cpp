@@ -6,6 +6,10 @@
 #include <QLocalSocket>
 #include <QSignalSpy>
 
+#include <algorithm>
+#include <memory>
+#include <vector>
+
 using namespace GuardTest;
 
 /// The guard in several processes.
@@ -21,6 +25,7 @@ public:
 private slots:
     void init();
     void secondStart();
+    void twentyAtOnce();
     void anotherUser();
     void secondaries();
     void notifyOnSecondary();
@@ -54,6 +59,31 @@ void TestInstances::secondStart()
     QTRY_COMPARE(started->count(), 1);
     QVERIFY(copy.says("front " + QByteArray::number(QCoreApplication::applicationPid())));
     QCOMPARE(readBlock(name)->secondaryCount, 0U);
+}
+
+void TestInstances::twentyAtOnce()
+{
+    constexpr int twenty = 20;
+    std::vector<std::unique_ptr<OtherCopy>> copies;
+    copies.reserve(twenty);
+    for (int copy = 0; copy < twenty; ++copy) {
+        copies.push_back(std::make_unique<OtherCopy>(QStringLiteral("crowd"), false,
+                                                     SingleApplication::PerUser));
+    }
+    const auto runs = [](const auto &copy) {
+        return copy->process.state() != QProcess::NotRunning;
+    };
+    QTRY_COMPARE_WITH_TIMEOUT(std::count_if(copies.begin(), copies.end(), runs), 1, 30'000);
+    OtherCopy &primary = **std::find_if(copies.begin(), copies.end(), runs);
+    QVERIFY(primary.stays());
+    for (const auto &copy : copies) {
+        QVERIFY(copy.get() == &primary || copy->leaves());
+    }
+    QTRY_VERIFY(primary.says("started"));
+    QTest::qWait(500); // for whatever it is still to read
+    primary.says("started");
+    const int announced = primary.output.count("started");
+    QVERIFY2(announced < twenty, QByteArray::number(announced).constData());
 }
 
 void TestInstances::anotherUser()
