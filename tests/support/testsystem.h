@@ -39,6 +39,12 @@ bool messagesOutliveTheirSender();
 /// where the system has none such.
 QStringList commandWithoutNetwork();
 
+/// The display's logical DPI as the desktop's own settings name it to the programs that start;
+/// nothing where they do not.
+std::optional<int> displayDpi();
+/// Sets it, or takes it out, and leaves the desktop's other settings as they are.
+void setDisplayDpi(std::optional<int> dpi);
+
 /// The path of a file as the tools of the desktop name it.
 QString pathOnDesktop(const QString &path);
 

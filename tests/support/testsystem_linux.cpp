@@ -4,7 +4,11 @@
 
 #include <QProcess>
 
+#include <cstdlib>
+#include <memory>
+
 #include <unistd.h>
+#include <xcb/xcb.h>
 
 namespace {
 
@@ -12,6 +16,54 @@ QString entryFile()
 {
     return qEnvironmentVariable("XDG_CONFIG_HOME") + QStringLiteral("/autostart/Lumikey.desktop");
 }
+
+/// The X resources: lines of names and values in a property of the root window, which programs
+/// read as they start.
+class XResources
+{
+public:
+    XResources()
+    {
+        if (xcb_connection_has_error(connection.get()) != 0) {
+            qFatal("there is no X display");
+        }
+        const auto screens = xcb_setup_roots_iterator(xcb_get_setup(connection.get()));
+        root = screens.data->root;
+    }
+
+    QByteArray read() const
+    {
+        constexpr uint32_t words = 1U << 20U;
+        const auto cookie = xcb_get_property(connection.get(), 0, root, XCB_ATOM_RESOURCE_MANAGER,
+                                             XCB_ATOM_STRING, 0, words);
+        const std::unique_ptr<xcb_get_property_reply_t, decltype(&std::free)> reply(
+            xcb_get_property_reply(connection.get(), cookie, nullptr), &std::free);
+        if (!reply) {
+            return {};
+        }
+        return {static_cast<const char *>(xcb_get_property_value(reply.get())),
+                xcb_get_property_value_length(reply.get())};
+    }
+
+    void write(const QByteArray &lines) const
+    {
+        if (lines.isEmpty()) {
+            xcb_delete_property(connection.get(), root, XCB_ATOM_RESOURCE_MANAGER);
+        } else {
+            xcb_change_property(connection.get(), XCB_PROP_MODE_REPLACE, root,
+                                XCB_ATOM_RESOURCE_MANAGER, XCB_ATOM_STRING, 8,
+                                static_cast<uint32_t>(lines.size()), lines.constData());
+        }
+        read(); // which waits until the display has taken it
+    }
+
+private:
+    const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> connection{
+        xcb_connect(nullptr, nullptr), &xcb_disconnect};
+    xcb_window_t root = 0;
+};
+
+const QByteArray dpiResource = "Xft.dpi:\t";
 
 } // namespace
 
@@ -75,6 +127,31 @@ QStringList TestSystem::commandWithoutNetwork()
     return command << QStringLiteral("sh") << QStringLiteral("-c")
                    << QStringLiteral(
                           "ip link set lo up && ip addr flush dev lo && exec \"$0\" \"$@\"");
+}
+
+std::optional<int> TestSystem::displayDpi()
+{
+    for (const QByteArray &line : XResources().read().split('\n')) {
+        if (line.startsWith(dpiResource)) {
+            return line.mid(dpiResource.size()).toInt();
+        }
+    }
+    return std::nullopt;
+}
+
+void TestSystem::setDisplayDpi(std::optional<int> dpi)
+{
+    const XResources resources;
+    QByteArray lines;
+    for (const QByteArray &line : resources.read().split('\n')) {
+        if (!line.isEmpty() && !line.startsWith(dpiResource)) {
+            lines += line + '\n';
+        }
+    }
+    if (dpi) {
+        lines += dpiResource + QByteArray::number(*dpi) + '\n';
+    }
+    resources.write(lines);
 }
 
 QString TestSystem::pathOnDesktop(const QString &path)

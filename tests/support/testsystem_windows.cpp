@@ -13,6 +13,10 @@ const QString runKey =
     QStringLiteral("HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Run");
 const QString runValue = QStringLiteral("Lumikey");
 
+// Wine reads it for each process that starts.
+const QString desktopKey = QStringLiteral("HKEY_CURRENT_USER\\Control Panel\\Desktop");
+const QString dpiValue = QStringLiteral("LogPixels");
+
 /// A word of a shell's command line.
 QString quoted(QString word)
 {
@@ -100,6 +104,25 @@ bool TestSystem::messagesOutliveTheirSender()
 QStringList TestSystem::commandWithoutNetwork()
 {
     return {};
+}
+
+std::optional<int> TestSystem::displayDpi()
+{
+    const QSettings settings(desktopKey, QSettings::NativeFormat);
+    if (!settings.contains(dpiValue)) {
+        return std::nullopt;
+    }
+    return settings.value(dpiValue).toInt();
+}
+
+void TestSystem::setDisplayDpi(std::optional<int> dpi)
+{
+    QSettings settings(desktopKey, QSettings::NativeFormat);
+    if (dpi) {
+        settings.setValue(dpiValue, *dpi);
+    } else {
+        settings.remove(dpiValue);
+    }
 }
 
 QString TestSystem::pathOnDesktop(const QString &path)

@@ -1,0 +1,123 @@
+#include "tests/support/programprocess.h"
+#include "tests/support/programwindow.h"
+#include "tests/support/testsystem.h"
+
+#include <QImage>
+#include <QTest>
+
+namespace {
+
+/// The edge of the title buttons as the screen shows it: what the header row leaves above the
+/// backlight frame, whose border is the first change of colour beside the title.
+int shownTitleButton(const QRect &window)
+{
+    constexpr int marginAndSpacing = 9 + 6;
+    constexpr int highest = 120;
+    const QByteArray column = TestSystem::runDesktopTool(
+        QStringLiteral("import"),
+        {QStringLiteral("-window"), QStringLiteral("root"), QStringLiteral("-crop"),
+         QStringLiteral("1x%1+%2+%3")
+             .arg(highest)
+             .arg(window.x() + window.width() * 6 / 10)
+             .arg(window.y()),
+         QStringLiteral("png:-")});
+    const QImage pixels = QImage::fromData(column, "PNG");
+    int y = 2; // within the window's own border
+    while (y < pixels.height() && pixels.pixel(0, y) == pixels.pixel(0, 1)) {
+        ++y;
+    }
+    return y - marginAndSpacing;
+}
+
+} // namespace
+
+/// The program on displays of every density, which the desktop's own settings tell it.
+class TestDisplayDpi : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+
+    void sizes_data();
+    void sizes();
+
+private:
+    std::optional<int> desktopsOwn;
+};
+
+void TestDisplayDpi::initTestCase()
+{
+    // What overrides the desktop.
+    qunsetenv("QT_FONT_DPI");
+    desktopsOwn = TestSystem::displayDpi();
+}
+
+void TestDisplayDpi::cleanupTestCase()
+{
+    TestSystem::setDisplayDpi(desktopsOwn);
+    QVERIFY(TestSystem::displayDpi() == desktopsOwn);
+}
+
+void TestDisplayDpi::sizes_data()
+{
+    QTest::addColumn<int>("dpi");
+    QTest::addColumn<QSize>("least");
+    QTest::addColumn<QSize>("most");
+    QTest::addColumn<int>("titleButton"); // 0: not to be seen
+    // As wide as the form opens; as tall as the band says.
+    QTest::newRow("96") << 96 << QSize(630, 630) << QSize(630, 630) << 25;
+    for (const int dpi : {97, 120}) {
+        QTest::addRow("%d", dpi) << dpi << QSize(630, 680) << QSize(630, 680) << 30;
+    }
+    // The font, which is the desktop's, may want more, yet less than the next band.
+    for (const int dpi : {121, 144}) {
+        QTest::addRow("%d", dpi) << dpi << QSize(720, 780) << QSize(799, 889) << 34;
+    }
+    QTest::newRow("168") << 168 << QSize(800, 890) << QSize(899, 959) << 38;
+    QTest::newRow("192") << 192 << QSize(900, 960) << QSize(940, 1009) << 42;
+    QTest::newRow("216") << 216 << QSize(920, 1010) << QSize(999, 1049) << 48;
+    QTest::newRow("240") << 240 << QSize(980, 1050) << QSize(1199, 1199) << 48;
+    // The gap. Its font is taller than its title buttons.
+    for (const int dpi : {241, 264, 287}) {
+        QTest::addRow("%d", dpi) << dpi << QSize(630, 630) << QSize(630, 630) << 0;
+    }
+    // The form's greatest height is below these minimums, which win.
+    for (const int dpi : {288, 335}) {
+        QTest::addRow("%d", dpi) << dpi << QSize(1200, 1250) << QSize(1400, 1250) << 52;
+    }
+    QTest::newRow("336") << 336 << QSize(1200, 1250) << QSize(1400, 1250) << 56;
+}
+
+void TestDisplayDpi::sizes()
+{
+    QFETCH(int, dpi);
+    QFETCH(QSize, least);
+    QFETCH(QSize, most);
+    QFETCH(int, titleButton);
+    TestSystem::setDisplayDpi(dpi);
+    ProgramProcess program;
+    QVERIFY(program.startAndServe());
+    QTRY_VERIFY(ProgramWindow::shown() != 0);
+    QVERIFY2(program.log().contains("Logical DPI: " + QByteArray::number(dpi)),
+             program.log().constData());
+
+    const QRect window = ProgramWindow::geometry();
+    const QByteArray found =
+        QByteArray::number(window.width()) + 'x' + QByteArray::number(window.height());
+    QVERIFY2(window.size().expandedTo(least) == window.size()
+                 && window.size().boundedTo(most) == window.size(),
+             found.constData());
+    if (titleButton != 0) {
+        int shown = 0;
+        const bool painted = QTest::qWaitFor([&] {
+            shown = shownTitleButton(window);
+            return shown == titleButton;
+        });
+        QVERIFY2(painted, QByteArray::number(shown).constData());
+    }
+}
+
+QTEST_MAIN(TestDisplayDpi)
+#include "tst_displaydpi.moc"
