@@ -18,7 +18,9 @@ struct DpiBand
     int colourButton = 0; ///< least edge; deliberately above the form's greatest
     int barHeight = 0;
     int frameHeight = 0; ///< least; deliberately above the form's greatest
-    int pageSpacer = 0;  ///< height of the blanks on the zone pages
+    /// Heights of the blanks on the zone pages and on those of the settings. They never shrink from
+    /// band to band, and leave the least window room for fonts taller than most.
+    int pageSpacer = 0;
     int settingsSpacer = 0;
 
     /// The lowest bands change but a few of the widgets.
@@ -31,14 +33,14 @@ constexpr int anyDpi = std::numeric_limits<int>::max();
 constexpr std::array dpiBands{
     DpiBand{96, {600, 630}},
     DpiBand{120, {620, 680}, 30},
-    DpiBand{144, {720, 780}, 34, {330, 115}, {330, 115}, {165, 115}, 0, 70, 110, 20, 0},
-    DpiBand{168, {800, 890}, 38, {340, 125}, {340, 125}, {175, 125}, 0, 75, 140, 25, 0},
-    DpiBand{192, {900, 960}, 42, {360, 145}, {360, 145}, {195, 145}, 50, 75, 140, 30, 0},
-    DpiBand{216, {920, 1010}, 48, {360, 145}, {370, 155}, {205, 155}, 50, 75, 150, 30, 0},
-    DpiBand{240, {980, 1050}, 48, {420, 155}, {380, 155}, {225, 155}, 50, 75, 160, 30, 0},
+    DpiBand{144, {720, 780}, 34, {330, 115}, {330, 115}, {165, 115}, 0, 70, 110, 20, 1},
+    DpiBand{168, {800, 890}, 38, {340, 125}, {340, 125}, {175, 125}, 0, 75, 140, 25, 2},
+    DpiBand{192, {900, 960}, 42, {360, 145}, {360, 145}, {195, 145}, 50, 75, 140, 30, 2},
+    DpiBand{216, {920, 1010}, 48, {360, 145}, {370, 155}, {205, 155}, 50, 75, 150, 30, 2},
+    DpiBand{240, {980, 1050}, 48, {420, 155}, {380, 155}, {225, 155}, 50, 75, 160, 30, 3},
     DpiBand{287, {}}, // a gap, kept on purpose: the form keeps its sizes
-    DpiBand{335, {1200, 1250}, 52, {440, 165}, {400, 165}, {245, 165}, 60, 75, 180, 45, 10},
-    DpiBand{anyDpi, {1200, 1250}, 56, {440, 165}, {400, 165}, {245, 165}, 60, 75, 180, 45, 10},
+    DpiBand{335, {1200, 1250}, 52, {440, 165}, {400, 165}, {245, 165}, 60, 75, 180, 45, 3},
+    DpiBand{anyDpi, {1200, 1250}, 56, {440, 165}, {400, 165}, {245, 165}, 60, 75, 180, 45, 3},
 };
 
 /// The band of a desktop's logical DPI.

@@ -9,6 +9,8 @@
 #include <QLayout>
 #include <QScreen>
 
+#include <algorithm>
+
 namespace {
 
 using Widgets = std::initializer_list<QWidget *>;
@@ -87,12 +89,29 @@ void MainWindow::enlargeForBand(const DpiBand &band)
     ui->frame_2->setMaximumHeight(band.barHeight);
     ui->frame->setMinimumHeight(band.frameHeight);
 
+    // Of one height on every page and with an effect chosen, so that nothing jumps.
+    const int pictures = std::max(
+        {band.fullPicture.height(), band.stripePicture.height(), band.zonePicture.height()});
+    struct Page
+    {
+        QGridLayout *layout;
+        int pictureRow;
+        int buttonRow;
+    };
+    for (const Page &page : {Page{ui->gridLayout_13, 1, 4}, Page{ui->gridLayout_3, 1, 3},
+                             Page{ui->gridLayout_6, 1, 3}, Page{ui->gridLayout_12, 1, 3},
+                             Page{ui->gridLayout_14, 1, 3}, Page{ui->gridLayout_11, 2, 4}}) {
+        page.layout->setRowMinimumHeight(page.pictureRow, pictures);
+        page.layout->setRowMinimumHeight(page.buttonRow, ui->colorpick4->minimumHeight());
+    }
+
     setHeights({ui->verticalSpacer_1, ui->verticalSpacer_2, ui->verticalSpacer_3,
                 ui->verticalSpacer_4, ui->verticalSpacer_5, ui->verticalSpacer_6,
                 ui->verticalSpacer_7, ui->verticalSpacer_8, ui->verticalSpacer_9,
-                ui->verticalSpacer_10, ui->verticalSpacer_11, ui->verticalSpacer_12,
-                ui->verticalSpacer_13},
+                ui->verticalSpacer_10, ui->verticalSpacer_12, ui->verticalSpacer_13},
                band.pageSpacer);
+    // No other page has a blank above its picture.
+    setHeights({ui->verticalSpacer_11}, 0);
     setHeights({ui->verticalSpacer_17, ui->verticalSpacer_18, ui->verticalSpacer_19,
                 ui->verticalSpacer_20, ui->verticalSpacer_21},
                band.settingsSpacer);
