@@ -12,6 +12,8 @@ from screenreader import LABEL, PAGE_TAB, Program, accessibility_bus, wait_for  
 ON = "backlight_on=true\nbrightlevel=100\n"
 ZONES = ON + "Zone1Color=255 85 0\nZone2Color=155 0 255\nZone3Color=0 255 255\nStripeLid=0 255 0\n"
 SINGLE = ON + "Zone4Color=0 120 255\nsinglecolorselectedlast=true\n"
+# Inside the square, so that all of its marker is seen.
+PICKED = ZONES.replace("Zone1Color=255 85 0", "Zone1Color=200 90 40")
 STRIPE = ZONES + "P751LEDStripe=true\n"
 
 
@@ -28,14 +30,15 @@ def picker(program):
     program.find(LABEL, "Select Left Keyboard Zone Color:")
 
 
-# Name of the picture, settings, what is done, a text by which the state is known.
+# Name of the picture, settings (none before the first start), what is done, a text by which the
+# state is known.
 STATES = [
     ("single", SINGLE, nothing, "Single Color Selection"),
     ("zones", ZONES, nothing, "Left"),
     ("stripe", STRIPE, tab("Stripe"), "Touchpad Stripe LED color"),
     ("effect", ZONES + "effects=7\n", nothing, "Brightness Level: 100% (disabled for Effects)"),
-    ("off", ZONES.replace("backlight_on=true", "backlight_off=true"), nothing, "Left"),
-    ("picker", ZONES, picker, "Selected Color:"),
+    ("off", None, nothing, "Backlight Status"),
+    ("picker", PICKED, picker, "Selected Color:"),
     ("perkey", ZONES + "PerKey=true\n", nothing, "Per Key RGB Keyboard App"),
     ("about", ZONES, tab("About"), "Software Version"),
 ]

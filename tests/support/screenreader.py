@@ -121,14 +121,16 @@ class Control:
 
 
 class Program:
-    """A running Lumikey in a home of its own."""
+    """A running Lumikey in a home of its own; settings is what an earlier run has left, None before
+    the first one."""
 
     def __init__(self, executable, settings="", dpi=96):
         self._home = tempfile.TemporaryDirectory()
         self.home = pathlib.Path(self._home.name)
         self.settings_file = self.home / "Documents/Corvane/Lumikey/lumikey.ini"
-        self.settings_file.parent.mkdir(parents=True)
-        self.settings_file.write_text("[settings]\n" + settings)
+        if settings is not None:
+            self.settings_file.parent.mkdir(parents=True)
+            self.settings_file.write_text("[settings]\n" + settings)
         executable = pathlib.Path(executable).resolve()
         environment = dict(os.environ, HOME=str(self.home), QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
                            QT_FONT_DPI=str(dpi))
