@@ -10,7 +10,8 @@
 
 /// The form's visible widgets whose text is clipped, that stick out of their parent or that cover
 /// a neighbour.
-inline QStringList clippedWidgets(const QWidget &window)
+/// @param tight texts of buttons and lists may have less air around them than they want
+inline QStringList clippedWidgets(const QWidget &window, bool tight = false)
 {
     QVector<QWidget *> shown;
     for (const auto &row : formtables::widgets) {
@@ -33,7 +34,10 @@ inline QStringList clippedWidgets(const QWidget &window)
         }
         if (needsRoom(widget)) {
             ++texts;
-            const QSize needed = widget->sizeHint();
+            QSize needed = widget->sizeHint();
+            if (tight && !qobject_cast<const QLabel *>(widget)) {
+                needed.setHeight(qMin(needed.height(), widget->fontMetrics().height()));
+            }
             if (widget->width() < needed.width() || widget->height() < needed.height()) {
                 problems += QStringLiteral("%1 has %2x%3 of %4x%5")
                                 .arg(widget->objectName())

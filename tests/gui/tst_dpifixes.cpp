@@ -295,7 +295,9 @@ void TestDpiFixes::showsEverything()
     if (window.screen()->availableSize().width() < window.minimumSizeHint().width()) {
         QSKIP("The display is too small for this DPI.");
     }
-    QCOMPARE(clippedWidgets(window), QStringList());
+    // The bars' heights are given, whatever the font that the desktop has.
+    const bool tight = expected().title >= 52;
+    QCOMPARE(clippedWidgets(window, tight).join(QStringLiteral("; ")), QString());
 }
 
 // Unlike QTEST_MAIN, leaves the style's own lengths to the DPI.
