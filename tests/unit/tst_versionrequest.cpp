@@ -22,6 +22,7 @@ private slots:
     void noServer();
     void noSuchScheme();
     void junkIsCutOff();
+    void junkInPiecesIsCutOff();
     void endlessJunkIsGivenUp();
     void compressedJunkIsCutOff();
     void waitsWithoutLimit();
@@ -168,6 +169,15 @@ void TestVersionRequest::junkIsCutOff()
 {
     VersionServer server;
     server.answerWith(QByteArray(tenMegabytes, 'x'));
+    QCOMPARE(textOf(server), QString(VersionRequest::maxBytes, QLatin1Char('x')));
+}
+
+void TestVersionRequest::junkInPiecesIsCutOff()
+{
+    VersionServer server;
+    server.answerWith(QByteArray(2 * VersionRequest::maxBytes, 'x'));
+    server.pieceBytes = 40'000; // the second piece reaches beyond the limit
+    server.pauseMs = 50;
     QCOMPARE(textOf(server), QString(VersionRequest::maxBytes, QLatin1Char('x')));
 }
 
