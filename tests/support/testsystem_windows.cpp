@@ -6,6 +6,7 @@
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTest>
+#include <QUuid>
 
 namespace {
 
@@ -52,25 +53,27 @@ QProcessEnvironment TestSystem::programEnvironment(const QString &programFolder)
 
 QByteArray TestSystem::runDesktopTool(const QString &tool, const QStringList &arguments)
 {
-    // Wine hands the output of the desktop's programs to nobody, so a shell keeps it in a file,
-    // which gets its name when it is whole.
-    const QTemporaryDir folder(QStringLiteral("Z:/tmp/lumikey-XXXXXX"));
-    const QString shellFolder = folder.path().mid(2);
-    QString line = QStringLiteral("cd ") + quoted(shellFolder) + QStringLiteral("\n") + tool;
+    // Wine hands the output of the desktop's programs to nobody, so somebody out there runs what is
+    // put into this folder.
+    const QString folder = qEnvironmentVariable("LUMIKEY_DESKTOP_TOOLS");
+    if (folder.isEmpty()) {
+        qFatal("LUMIKEY_DESKTOP_TOOLS names no folder that script/lib/desktop-tools watches");
+    }
+    QString line = tool;
     for (const QString &argument : arguments) {
         line += QLatin1Char(' ') + quoted(argument);
     }
-    line += QStringLiteral(" >partial\nmv partial output\n");
-    writeFile(folder.filePath(QStringLiteral("tool")), line.toUtf8());
-    // The file tells when it has ended.
-    QProcess::startDetached(QStringLiteral("cmd"),
-                            {QStringLiteral("/c"), QStringLiteral("start"), QStringLiteral("/unix"),
-                             QStringLiteral("/bin/sh"), shellFolder + QStringLiteral("/tool")});
-    const QString output = folder.filePath(QStringLiteral("output"));
+    const QString name = QStringLiteral("Z:") + folder + QLatin1Char('/')
+                         + QUuid::createUuid().toString(QUuid::WithoutBraces);
+    writeFile(name + QStringLiteral(".new"), line.toUtf8());
+    QFile::rename(name + QStringLiteral(".new"), name + QStringLiteral(".tool"));
+    const QString output = name + QStringLiteral(".output");
     if (!QTest::qWaitFor([&output] { return QFile::exists(output); }, 30'000)) {
         qFatal("%s did not end", qPrintable(tool));
     }
-    return readFile(output);
+    const QByteArray written = readFile(output);
+    QFile::remove(output);
+    return written;
 }
 
 std::optional<QString> TestSystem::autostartEntry()
