@@ -1,6 +1,7 @@
 #include "tests/support/programprocess.h"
 
 #include "tests/support/guitest.h"
+#include "tests/support/programwindow.h"
 #include "tests/support/testsystem.h"
 
 #include <QFileInfo>
@@ -19,11 +20,20 @@ ProgramProcess::ProgramProcess()
 
 ProgramProcess::~ProgramProcess()
 {
+    if (process.state() == QProcess::NotRunning) {
+        return;
+    }
+    const qulonglong window = ProgramWindow::shown();
     process.kill();
     // By its notice, before anything waits for it: Wine's thread pool may call back into a wait
     // that is given up at that moment.
     if (!QTest::qWaitFor([this] { return process.state() == QProcess::NotRunning; })) {
         process.waitForFinished();
+    }
+    // The screen may show its window a moment longer than it lives: nobody is to take it for that
+    // of the program which is started next.
+    if (window != 0 && !QTest::qWaitFor([window] { return ProgramWindow::shown() != window; })) {
+        qWarning("the window of a killed program does not go");
     }
 }
 
