@@ -134,3 +134,16 @@ throw_away_home() {
     mkdir -p "$HOME" "$XDG_RUNTIME_DIR"
     chmod 700 "$XDG_RUNTIME_DIR"
 }
+
+# start_wine: a Wine prefix that nobody has used, in the scratch folder; sets WINEPREFIX. Programs
+# that start there offer no web engines, and a crash ends them.
+start_wine() {
+    step "Making a Wine prefix"
+    unset QT_QPA_PLATFORM # names a platform of this system
+    export WINEPREFIX=$scratch/wine WINEDEBUG=-all
+    export WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe,winedbg.exe=d"
+    # Not --init, which Wine has done by then: a second time leaves two of each of its services, and
+    # who asks the wrong one waits for ten seconds.
+    wineboot --update >"$scratch/wineboot.log" 2>&1
+    timeout 60 wineserver -w
+}

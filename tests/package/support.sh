@@ -52,13 +52,7 @@ make_world() {
     export TMPDIR=$scratch/tmp
     mkdir -p "$TMPDIR" "$HOME/Documents"
     start_display
-    unset QT_QPA_PLATFORM # names a platform of this system
-    export WINEPREFIX=$scratch/wine WINEDEBUG=-all
-    # No offer to install web engines, no menu entries on this desktop, and a crash ends the program.
-    export WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe,winedbg.exe=d"
-    step "Making a Wine prefix"
-    wineboot -i >"$scratch/wineboot.log" 2>&1
-    timeout 60 wineserver -w
+    start_wine
     trap 'wineserver -k 2>/dev/null || true; clean_up' EXIT
 }
 
