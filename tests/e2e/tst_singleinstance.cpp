@@ -105,10 +105,7 @@ qulonglong topWindow()
 /// How many windows of the program the screen shows.
 int shownWindows()
 {
-    const QByteArray windows = TestSystem::runDesktopTool(
-        xdotool, {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                  QStringLiteral("--name"), QStringLiteral("^Lumikey$")});
-    return windows.count('\n');
+    return ProgramWindow::windows(QStringLiteral("^Lumikey$")).size();
 }
 
 /// Asks again for 10 s of real time; the desktop's tools take theirs.
@@ -327,8 +324,7 @@ void TestSingleInstance::killedHardAndStartedAgain()
         QVERIFY(first->startAndServe());
         FurtherStart second(*first);
         QVERIFY(second.leaves());
-        first->process.kill();
-        QVERIFY(first->process.waitForFinished());
+        first->kill();
     }
     // In the middle of its start, too.
     QVERIFY(first->start());

@@ -20,6 +20,11 @@ ProgramProcess::ProgramProcess()
 
 ProgramProcess::~ProgramProcess()
 {
+    kill();
+}
+
+void ProgramProcess::kill()
+{
     if (process.state() == QProcess::NotRunning) {
         return;
     }
@@ -30,8 +35,8 @@ ProgramProcess::~ProgramProcess()
     if (!QTest::qWaitFor([this] { return process.state() == QProcess::NotRunning; })) {
         process.waitForFinished();
     }
-    // The screen may show its window a moment longer than it lives: nobody is to take it for that
-    // of the program which is started next.
+    // The screen may show the window a moment longer: nobody is to take it for that of the program
+    // which is started next.
     if (window != 0 && !QTest::qWaitFor([window] { return ProgramWindow::shown() != window; })) {
         qWarning("the window of a killed program does not go");
     }

@@ -35,6 +35,10 @@ public:
     bool startAndServe(const QString &directory = programFolder(),
                        const QStringList &arguments = {});
 
+    /// Ends the program without asking it; returns when neither it nor its window is there any
+    /// more.
+    void kill();
+
     /// What the program has logged since it started.
     QByteArray log() const;
 

@@ -17,13 +17,29 @@ QString number(int value)
 
 } // namespace
 
+QVector<qulonglong> ProgramWindow::windows(const QString &title)
+{
+    QByteArray found;
+    // The tool stumbles over windows that go while it looks at all there are: nothing is to be
+    // seen where it sees nothing twice.
+    for (int look = 0; look < 2 && found.isEmpty(); ++look) {
+        found = TestSystem::runDesktopTool(xdotool, {QStringLiteral("search"),
+                                                     QStringLiteral("--onlyvisible"),
+                                                     QStringLiteral("--name"), title});
+    }
+    QVector<qulonglong> ids;
+    for (const QByteArray &line : found.trimmed().split('\n')) {
+        if (const qulonglong id = line.toULongLong()) {
+            ids += id;
+        }
+    }
+    return ids;
+}
+
 qulonglong ProgramWindow::shown()
 {
-    return TestSystem::runDesktopTool(xdotool,
-                                      {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                                       QStringLiteral("--name"), QStringLiteral("^Lumikey$")})
-        .trimmed()
-        .toULongLong();
+    const QVector<qulonglong> found = windows(QStringLiteral("^Lumikey$"));
+    return found.size() == 1 ? found.first() : 0;
 }
 
 QRect ProgramWindow::geometry()
@@ -82,7 +98,6 @@ void ProgramWindow::press(const QStringList &keys)
 QPoint ProgramWindow::onScreen(QWidget &twin, const char *name, const QPoint &offset)
 {
     QRect place;
-    // The tool stumbles over windows that go while it looks at all there are.
     if (!QTest::qWaitFor([&place] {
             place = geometry();
             return !place.isEmpty();

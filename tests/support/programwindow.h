@@ -5,6 +5,7 @@
 #include <QPoint>
 #include <QRect>
 #include <QStringList>
+#include <QVector>
 
 class QWidget;
 
@@ -12,7 +13,10 @@ class QWidget;
 /// pointer and the keyboard. Everything goes through tools of the X11 desktop.
 namespace ProgramWindow {
 
-/// The window of another process with the program's title; 0 when none is shown.
+/// The windows of other processes that the screen shows, by a regular expression for their titles.
+QVector<qulonglong> windows(const QString &title);
+
+/// The one window with the program's title; 0 when none is shown, or several.
 qulonglong shown();
 
 /// Where it is on the screen; empty when it is not shown.
