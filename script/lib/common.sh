@@ -142,8 +142,8 @@ start_wine() {
     unset QT_QPA_PLATFORM # names a platform of this system
     export WINEPREFIX=$scratch/wine WINEDEBUG=-all
     export WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe,winedbg.exe=d"
-    # Not --init, which Wine has done by then: a second time leaves two of each of its services, and
-    # who asks the wrong one waits for ten seconds.
+    # Not --init, which Wine has done by then: a second time was seen to leave two of some of its
+    # services, and with them whole runs in which each program took twenty seconds longer.
     wineboot --update >"$scratch/wineboot.log" 2>&1
     timeout 60 wineserver -w
 }

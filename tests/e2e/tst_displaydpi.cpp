@@ -141,6 +141,9 @@ void TestDisplayDpi::sizes()
         window.moveTopLeft({0, 0});
         QVERIFY2(QTest::qWaitFor(isRight), QByteArray::number(shown).constData());
     }
+    // It has not gone through the right size on its way to another.
+    QTest::qWait(300);
+    QCOMPARE(ProgramWindow::geometry().size(), window.size());
 }
 
 QTEST_MAIN(TestDisplayDpi)

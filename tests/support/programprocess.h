@@ -35,8 +35,8 @@ public:
     bool startAndServe(const QString &directory = programFolder(),
                        const QStringList &arguments = {});
 
-    /// Ends the program without asking it; returns when neither it nor its window is there any
-    /// more.
+    /// Ends the program without asking it; returns when neither it nor its window, where it is the
+    /// only one, is there any more. A window that stays for five seconds is warned of.
     void kill();
 
     /// What the program has logged since it started.
