@@ -104,7 +104,9 @@ own_display_files() {
 start_display() {
     local number_file=$scratch/display
     step "Starting a virtual display"
-    Xvfb -displayfd 3 -screen 0 "${1:-1600x1280}x24" -dpi 96 -nolisten tcp \
+    # With -noreset: else it starts anew when its only client leaves, which may be the question
+    # below, and refuses the window manager meanwhile.
+    Xvfb -displayfd 3 -screen 0 "${1:-1600x1280}x24" -dpi 96 -nolisten tcp -noreset \
         3>"$number_file" 2>"$scratch/xvfb.log" &
     children+=($!)
     for _ in $(seq 100); do

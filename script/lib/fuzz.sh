@@ -1,6 +1,5 @@
 # shellcheck shell=bash
-# The fuzzers of fuzz/: building, running, telling what they found. Sourced by script/test, which
-# has set_apart().
+# The fuzzers of fuzz/: building, running, telling what they found. Sourced by script/test.
 
 fuzz_targets=(agentdecoder colortexts companion connectionmessage settings versions)
 fuzz_jobs=2
@@ -51,10 +50,6 @@ fuzz() {
     export LSAN_OPTIONS=suppressions=$root/tests/lsan.supp:print_suppressions=0
     export UBSAN_OPTIONS=print_stacktrace=1
     set_apart # the window listens on one port
-    if [ ${#apart[@]} -gt 0 ]; then
-        # shellcheck disable=SC2016 # the inner shell's own arguments
-        apart+=(bash -c 'ip link set lo up; exec "$@"' apart)
-    fi
     step "Fuzzing: ${#fuzz_targets[@]} targets, $seconds s each, $fuzz_jobs at once"
     local running=()
     for target in "${fuzz_targets[@]}"; do
