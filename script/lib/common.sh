@@ -93,11 +93,17 @@ make_scratch() {
     scratch=$(mktemp -d "${TMPDIR:-/tmp}/lumikey.XXXXXX")
 }
 
-# own_display_files: gives who has mounts of its own displays of its own. Displays of different
-# networks may get the same number, and who is in yet another network finds them by their files.
-own_display_files() {
-    mkdir -p /tmp/.X11-unix
-    mount -t tmpfs -o mode=1777 displays /tmp/.X11-unix
+# set_apart: sets `apart` to what starts a command in a world of its own (script/lib/apart); to
+# nothing where the system does not part worlds.
+set_apart() {
+    apart=(unshare --net --ipc --mount)
+    if [ "$(id -u)" -ne 0 ]; then
+        apart+=(--user --map-root-user)
+    fi
+    apart+=("$root/script/lib/apart")
+    if ! "${apart[@]}" true 2>/dev/null; then
+        apart=()
+    fi
 }
 
 # start_display [WIDTHxHEIGHT]: a virtual display of 96 DPI with a window manager; sets DISPLAY.
