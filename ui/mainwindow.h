@@ -164,6 +164,7 @@ protected:
 private:
     void restoreWindowGeometry();
     void enableStripePage(bool enabled);
+    void applyStoredEffect();
     void loadZoneColours();
     void setLightingControlsEnabled(bool enabled);
 

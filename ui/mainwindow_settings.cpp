@@ -3,6 +3,7 @@
 #include "ui_mainwindow.h"
 
 #include "lighting/devicewords.h"
+#include "lighting/effects.h"
 #include "system/platform.h"
 #include "ui/darkstyle.h"
 #include "ui/zonepages.h"
@@ -108,8 +109,21 @@ void MainWindow::delayedApply()
     companionTimer->start(companionPeriodMs);
     loadingSettings = false;
     // After loading, so that the effect's slot applies it.
-    selectStored(*ui->Combo_Effect, settings.readSetting(SettingKeys::effects).toInt());
+    applyStoredEffect();
     lastActivityMs = now();
+}
+
+void MainWindow::applyStoredEffect()
+{
+    const int former = ui->Combo_Effect->currentIndex();
+    selectStored(*ui->Combo_Effect, settings.readSetting(SettingKeys::effects).toInt());
+    const int index = ui->Combo_Effect->currentIndex();
+    // The list announces a new index only, but settings that are applied again have taken the
+    // effect's looks back, and one chosen while loading has not been applied.
+    const bool unapplied = index != 0 || lighting.effectWord != wordText(effects.front().word);
+    if (index == former && unapplied) {
+        on_Combo_Effect_currentIndexChanged(index);
+    }
 }
 
 void MainWindow::loadZoneColours()

@@ -1,6 +1,8 @@
 #include "tests/support/testwindow.h"
 
 #include <QAbstractEventDispatcher>
+#include <QComboBox>
+#include <QLabel>
 #include <QTest>
 
 namespace {
@@ -12,6 +14,24 @@ QString words(const MainWindow &window)
     const LightingState &state = window.lightingState();
     return QStringList{state.leftWord, state.centreWord, state.rightWord, state.stripeWord}.join(
         QLatin1Char(' '));
+}
+
+/// What an effect changes: what is hidden, what is enabled, the brightness line and the word.
+QString effectLooks(const TestWindow &world)
+{
+    QStringList looks;
+    for (const char *const name :
+         {"label_14", "label_16", "label_13", "keyboard_full", "colorpick4", "label_9", "label_10",
+          "label_11", "keyboard_left", "keyboard_center", "keyboard_right", "colorpick1",
+          "colorpick2", "colorpick3"}) {
+        looks += QString::fromLatin1(world.get<QWidget>(name)->isHidden() ? "-" : name);
+    }
+    for (const char *const name : {"horizontalSlider", "CheckBox_AutoDim", "comboDimValue"}) {
+        looks += QString::fromLatin1(world.get<QWidget>(name)->isEnabled() ? name : "-");
+    }
+    looks += world.get<QLabel>("label_2")->text();
+    looks += world.window->lightingState().effectWord;
+    return looks.join(QLatin1Char(' '));
 }
 
 } // namespace
@@ -28,6 +48,8 @@ private slots:
     void otherNativeMessages();
     void settingsComeBack_data();
     void settingsComeBack();
+    void effectComesBack_data();
+    void effectComesBack();
     void windowsLifeIsTheNoticesLife();
 
 private:
@@ -95,6 +117,39 @@ void TestResumedWindow::settingsComeBack()
     QVERIFY(words(window) != before);
     QTRY_COMPARE_WITH_TIMEOUT(words(window), before, 2000);
     QCOMPARE(window.isVisible(), shown);
+}
+
+void TestResumedWindow::effectComesBack_data()
+{
+    QTest::addColumn<int>("before");
+    QTest::addColumn<int>("whileLoading");
+    QTest::newRow("none") << 0 << 0;
+    QTest::newRow("kept") << 7 << 7;
+    QTest::newRow("chosen while loading") << 0 << 5;
+    QTest::newRow("changed while loading") << 3 << 5;
+    QTest::newRow("taken back while loading") << 7 << 0;
+}
+
+/// After a resume the window shows the effect, and the line holds it, as after a start.
+void TestResumedWindow::effectComesBack()
+{
+    QFETCH(int, before);
+    QFETCH(int, whileLoading);
+    const auto startWith = [this](int effect) {
+        init();
+        world->writeSettings(
+            "backlight_on=true\nbrightlevel=80\neffects=" + QByteArray::number(effect) + '\n');
+        world->start();
+    };
+    startWith(whileLoading);
+    const QString afterStart = effectLooks(*world);
+
+    startWith(before);
+    world->window->suspendresumeaction();
+    world->window->LoadSettings();
+    world->get<QComboBox>("Combo_Effect")->setCurrentIndex(whileLoading);
+    world->window->delayedApply();
+    QCOMPARE(effectLooks(*world), afterStart);
 }
 
 void TestResumedWindow::windowsLifeIsTheNoticesLife()
