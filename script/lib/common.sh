@@ -53,9 +53,10 @@ build() {
     shift
     step "Building ($preset)"
     cd "$root"
-    cmake --preset "$preset" >"$root/build-$preset.log" 2>&1 \
-        || { cat "$root/build-$preset.log"; exit 1; }
-    rm -f "$root/build-$preset.log"
+    mkdir -p "$root/build"
+    cmake --preset "$preset" >"$root/build/$preset.log" 2>&1 \
+        || { cat "$root/build/$preset.log"; exit 1; }
+    rm -f "$root/build/$preset.log"
     local targets=()
     if [ $# -gt 0 ]; then
         targets=(--target "$@")
