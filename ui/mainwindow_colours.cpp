@@ -4,6 +4,7 @@
 
 #include "colorpicker/basiccolours.h"
 #include "colorpicker/blanktyping.h"
+#include "colorpicker/hextyping.h"
 #include "colorpicker/services.h"
 
 #include <array>
@@ -45,6 +46,7 @@ void MainWindow::connectColourPicker()
     connect(this, SIGNAL(mouseReleasedOnWindow()), ui->colorSample, SLOT(mouseReleasedOnWindow()));
 
     new BlankTyping(ui->leRGB);
+    new HexTyping(ui->leHex);
     // The fields keep Tab for themselves, so these are the keyboard's ways out of them.
     for (const ColorText *const field : {ui->leRGB, ui->leHex}) {
         connect(field, &ColorText::focusNextField, this, [this] { leaveTextField(true); });
@@ -181,9 +183,14 @@ void MainWindow::on_comboBox_BasicColors_currentIndexChanged(int index)
 
 void MainWindow::updateColorRGB(const QString &RGB)
 {
+    QLineEdit &field = *ui->leRGB;
     const QString text = Services::normalize(RGB);
-    setTextKeepingCursor(*ui->leRGB, text);
+    setTextKeepingCursor(field, text);
+    // A valid text is written anew, perhaps without a leading zero; what was behind the cursor is
+    // behind it then.
+    const int behind = text.size() - field.cursorPosition();
     keepExact(colourProcessor->setRGB(text));
+    field.setCursorPosition(field.text().size() - behind);
 }
 
 void MainWindow::keepExact(const QColor &colour)

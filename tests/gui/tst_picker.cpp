@@ -4,9 +4,11 @@
 #include "colorpicker/pickergeometry.h"
 #include "colorpicker/svselector.h"
 #include "lighting/devicewords.h"
+#include "tests/gui/pickerfields.h"
 #include "tests/support/testwindow.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
 #include <QGuiApplication>
@@ -14,6 +16,9 @@
 #include <QLineEdit>
 #include <QStatusBar>
 #include <QTest>
+#include <QWheelEvent>
+
+using namespace PickerFields;
 
 Q_DECLARE_METATYPE(SettingKey)
 
@@ -31,11 +36,8 @@ private slots:
     void chosenPurpleIsNotRecognised();
     void enteredPurpleBecomesTheOther();
     void enteredTextIsNormalised();
-    void typedLetterByLetter_data();
-    void typedLetterByLetter();
     void greyUntilAnotherHue_data();
     void greyUntilAnotherHue();
-    void hexIsEntered();
     void textThatIsNoColourIsStoredAsTyped();
     void copying();
     void pasting();
@@ -43,32 +45,6 @@ private slots:
     void selectField();
 
 private:
-    static void open(TestWindow &world, const char *button, const QByteArray &settings = {})
-    {
-        world.writeSettings("backlight_on=true\nbrightlevel=100\n" + settings);
-        world.start();
-        world.get<QAbstractButton>(button)->click();
-    }
-    static QString text(const TestWindow &world, const char *field)
-    {
-        return world.get<QLineEdit>(field)->text();
-    }
-    /// Puts a text in as a whole, by the keyboard and the clipboard.
-    static void enter(const TestWindow &world, const char *field, const char *text)
-    {
-        auto *const edit = world.get<QLineEdit>(field);
-        QGuiApplication::clipboard()->setText(QString::fromLatin1(text));
-        edit->selectAll();
-        QTest::keyClick(edit, Qt::Key_V, Qt::ControlModifier);
-    }
-    /// Types a text letter by letter in the place of the old one.
-    static void type(const TestWindow &world, const char *field, const QString &keys)
-    {
-        auto *const edit = world.get<QLineEdit>(field);
-        edit->selectAll();
-        QTest::keyClick(edit, Qt::Key_Delete);
-        QTest::keyClicks(edit, keys);
-    }
     /// Whether every pixel of the square's picture, as the window shows it, is a grey.
     static bool squareIsGrey(const TestWindow &world)
     {
@@ -230,34 +206,6 @@ void TestPicker::enteredTextIsNormalised()
     QCOMPARE(text(world, "leHex"), QStringLiteral("ff0000"));
 }
 
-void TestPicker::typedLetterByLetter_data()
-{
-    QTest::addColumn<QString>("keys");
-    QTest::addColumn<QString>("field");
-    QTest::addColumn<QColor>("colour");
-    const QColor before(1, 2, 3);
-    QTest::newRow("blanks") << "153 0 255"
-                            << "153 0 255" << QColor(153, 0, 255);
-    QTest::newRow("commas") << "0,128,255"
-                            << "0 128 255" << QColor(0, 128, 255);
-    QTest::newRow("too many blanks") << "  7   8  9 "
-                                     << "7 8 9" << QColor(7, 8, 9);
-    QTest::newRow("two numbers") << "7 8"
-                                 << "7 8" << before;
-    QTest::newRow("four numbers") << "7 8 9 1"
-                                  << "7 8 91" << QColor(7, 8, 91);
-}
-
-void TestPicker::typedLetterByLetter()
-{
-    QFETCH(QString, keys);
-    TestWindow world;
-    open(world, "colorpick1", "Zone1Color=1 2 3\n");
-    type(world, "leRGB", keys);
-    QTEST(text(world, "leRGB"), "field");
-    QTEST(world.get<ColorSample>("colorSample")->color(), "colour");
-}
-
 void TestPicker::greyUntilAnotherHue_data()
 {
     QTest::addColumn<bool>("byStrip");
@@ -299,29 +247,30 @@ void TestPicker::greyUntilAnotherHue()
     QCOMPARE(text(world, "leHex"), chosen.name().mid(1));
 }
 
-void TestPicker::hexIsEntered()
-{
-    TestWindow world;
-    open(world, "colorpick1");
-    QTest::keyClicks(world.get<QLineEdit>("leHex"), QStringLiteral("f00"));
-    QCOMPARE(text(world, "leRGB"), QStringLiteral("255 0 0")); // as soon as it is three digits
-    enter(world, "leHex", "0080ff");
-    QCOMPARE(text(world, "leRGB"), QStringLiteral("0 128 255"));
-    QCOMPARE(text(world, "leHex"), QStringLiteral("0080ff"));
-}
-
 void TestPicker::textThatIsNoColourIsStoredAsTyped()
 {
     TestWindow world;
     open(world, "colorpick1", "Zone1Color=255 0 0\n");
+    world.window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(world.window.get()));
     auto *const field = world.get<QLineEdit>("leRGB");
     field->setCursorPosition(0);
     QTest::keyClick(field, Qt::Key_Up);
     QCOMPARE(field->text(), QStringLiteral("256 0 0"));
+    const QPoint at = field->inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
+    for (int step = 257; step <= 300; ++step) {
+        QWheelEvent up(at, field->mapToGlobal(at), QPoint(), QPoint(0, 120), Qt::NoButton,
+                       Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(field, &up);
+    }
+    QCOMPARE(field->text(), QStringLiteral("300 0 0"));
     QCOMPARE(text(world, "leHex"), QStringLiteral("ff0000"));
+    QCOMPARE(world.get<ColorSample>("colorSample")->color().rgb(), QColor(Qt::red).rgb());
+    QCOMPARE(world.get<SVSelector>("svSelector")->color().rgb(), QColor(Qt::red).rgb());
+    QCOMPARE(world.get<HSelector>("hSelector")->hue(), 0);
     world.get<QAbstractButton>("pushButton")->click();
-    QCOMPARE(world.stored(SettingKeys::leftColour), QStringLiteral("256 0 0"));
-    QCOMPARE(world.window->lightingState().leftWord, wordText(0xF0000000));
+    QCOMPARE(world.stored(SettingKeys::leftColour), QStringLiteral("300 0 0"));
+    QCOMPARE(world.window->lightingState().leftWord, wordText(0xF0002C00)); // 300 in eight bits
 }
 
 void TestPicker::copying()

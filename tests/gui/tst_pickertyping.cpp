@@ -1,0 +1,169 @@
+#include "colorpicker/colorsample.h"
+#include "tests/gui/pickerfields.h"
+#include "tests/support/testwindow.h"
+
+#include <QLineEdit>
+#include <QTest>
+
+using namespace PickerFields;
+
+/// Colours typed into the picker's fields, which are written anew at each letter.
+class TestPickerTyping : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void typedLetterByLetter_data();
+    void typedLetterByLetter();
+    void overtyping_data();
+    void overtyping();
+    void hexIsEntered();
+    void hexLetterByLetter_data();
+    void hexLetterByLetter();
+    void hexAfterAnotherEdit();
+};
+
+void TestPickerTyping::typedLetterByLetter_data()
+{
+    QTest::addColumn<QString>("keys");
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QColor>("colour");
+    const QColor before(1, 2, 3);
+    QTest::newRow("blanks") << "153 0 255"
+                            << "153 0 255" << QColor(153, 0, 255);
+    QTest::newRow("commas") << "0,128,255"
+                            << "0 128 255" << QColor(0, 128, 255);
+    QTest::newRow("too many blanks") << "  7   8  9 "
+                                     << "7 8 9" << QColor(7, 8, 9);
+    QTest::newRow("two numbers") << "7 8"
+                                 << "7 8" << before;
+    QTest::newRow("four numbers") << "7 8 9 1"
+                                  << "7 8 91" << QColor(7, 8, 91);
+}
+
+void TestPickerTyping::typedLetterByLetter()
+{
+    QFETCH(QString, keys);
+    TestWindow world;
+    open(world, "colorpick1", "Zone1Color=1 2 3\n");
+    type(world, "leRGB", keys);
+    QTEST(text(world, "leRGB"), "field");
+    QTEST(world.get<ColorSample>("colorSample")->color(), "colour");
+}
+
+void TestPickerTyping::overtyping_data()
+{
+    QTest::addColumn<int>("start");
+    QTest::addColumn<int>("length");
+    QTest::addColumn<QString>("keys");
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<int>("cursor");
+    QTest::newRow("first number") << 0 << 3 << "12"
+                                  << "12 0 77" << 2;
+    QTest::newRow("middle number") << 4 << 1 << "128"
+                                   << "255 128 77" << 7;
+    QTest::newRow("behind a zero") << 5 << 0 << "34"
+                                   << "255 34 77" << 6;
+    QTest::newRow("last number") << 6 << 2 << "9"
+                                 << "255 0 9" << 7;
+}
+
+/// The cursor stays where the user types, also where each letter makes another valid colour.
+void TestPickerTyping::overtyping()
+{
+    QFETCH(int, start);
+    QFETCH(int, length);
+    QFETCH(QString, keys);
+    TestWindow world;
+    open(world, "colorpick1", "Zone1Color=255 0 77\n");
+    auto *const edit = world.get<QLineEdit>("leRGB");
+    edit->setCursorPosition(start);
+    if (length > 0) {
+        edit->setSelection(start, length);
+    }
+    QTest::keyClicks(edit, keys);
+    QTEST(edit->text(), "field");
+    QTEST(edit->cursorPosition(), "cursor");
+}
+
+void TestPickerTyping::hexIsEntered()
+{
+    TestWindow world;
+    open(world, "colorpick1");
+    QTest::keyClicks(world.get<QLineEdit>("leHex"), QStringLiteral("f00"));
+    QCOMPARE(text(world, "leRGB"), QStringLiteral("255 0 0")); // as soon as it is three digits
+    enter(world, "leHex", "0080ff");
+    QCOMPARE(text(world, "leRGB"), QStringLiteral("0 128 255"));
+    QCOMPARE(text(world, "leHex"), QStringLiteral("0080ff"));
+}
+
+void TestPickerTyping::hexLetterByLetter_data()
+{
+    QTest::addColumn<QString>("keys"); // a "<" is a Backspace
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QString>("rgb");
+    QTest::newRow("six digits") << "123456"
+                                << "123456"
+                                << "18 52 86";
+    QTest::newRow("pairs of the same") << "112233"
+                                       << "112233"
+                                       << "17 34 51";
+    QTest::newRow("capital letters") << "C85AbF"
+                                     << "c85abf"
+                                     << "200 90 191";
+    QTest::newRow("three digits") << "c85"
+                                  << "cc8855"
+                                  << "204 136 85";
+    QTest::newRow("four digits are no colour yet") << "c85a"
+                                                   << "c85a"
+                                                   << "204 136 85";
+    QTest::newRow("the third digit mended") << "c84<5"
+                                            << "cc8855"
+                                            << "204 136 85";
+    QTest::newRow("erased from six to two") << "123456<<<<"
+                                            << "12"
+                                            << "17 34 51";
+    QTest::newRow("erased and typed again") << "123456<<<<<<abcdef"
+                                            << "abcdef"
+                                            << "171 205 239";
+    QTest::newRow("more than six") << "1234567"
+                                   << "1234567"
+                                   << "18 52 86";
+}
+
+void TestPickerTyping::hexLetterByLetter()
+{
+    QFETCH(QString, keys);
+    TestWindow world;
+    open(world, "colorpick1", "Zone1Color=1 2 3\n");
+    auto *const edit = world.get<QLineEdit>("leHex");
+    edit->selectAll();
+    for (const QChar key : keys) {
+        if (key == QLatin1Char('<')) {
+            QTest::keyClick(edit, Qt::Key_Backspace);
+        } else {
+            QTest::keyClick(edit, key.toLatin1());
+        }
+    }
+    QTEST(edit->text(), "field");
+    QTEST(text(world, "leRGB"), "rgb");
+}
+
+/// Three digits that were written out are six like others for who comes back to them.
+void TestPickerTyping::hexAfterAnotherEdit()
+{
+    TestWindow world;
+    open(world, "colorpick1", "Zone1Color=1 2 3\n");
+    world.window->show();
+    QVERIFY(QTest::qWaitForWindowActive(world.window.get()));
+    auto *const edit = world.get<QLineEdit>("leHex");
+    type(world, "leHex", QStringLiteral("123"));
+    QTest::mouseClick(edit, Qt::LeftButton, Qt::NoModifier,
+                      {edit->width() - 4, edit->height() / 2});
+    QCOMPARE(edit->cursorPosition(), 6);
+    QTest::keyClick(edit, Qt::Key_Backspace);
+    QCOMPARE(edit->text(), QStringLiteral("11223"));
+}
+
+QTEST_MAIN(TestPickerTyping)
+#include "tst_pickertyping.moc"
