@@ -50,6 +50,7 @@ private slots:
     void settingsComeBack();
     void effectComesBack_data();
     void effectComesBack();
+    void nothingComesBackInPerKeyMode();
     void windowsLifeIsTheNoticesLife();
 
 private:
@@ -150,6 +151,19 @@ void TestResumedWindow::effectComesBack()
     world->get<QComboBox>("Combo_Effect")->setCurrentIndex(whileLoading);
     world->window->delayedApply();
     QCOMPARE(effectLooks(*world), afterStart);
+}
+
+/// The keyboard is another application's, and its colours are not told again.
+void TestResumedWindow::nothingComesBackInPerKeyMode()
+{
+    init();
+    world->writeSettings("backlight_on=true\nbrightlevel=100\nZone1Color=255 0 0\nPerKey=true\n");
+    const MainWindow &window = world->construct();
+    QCOMPARE(words(window), QStringLiteral("3758616583 3758616583 3758616583 3758616583"));
+    world->window->suspendresumeaction();
+    world->window->LoadSettings();
+    QTest::qWait(1300);
+    QCOMPARE(words(window), blackLine);
 }
 
 void TestResumedWindow::windowsLifeIsTheNoticesLife()
