@@ -1,5 +1,5 @@
 #include "app/startup.h"
-#include "tests/support/guitest.h"
+#include "tests/support/testwindow.h"
 #include "ui/darkstyle.h"
 
 #include <QApplication>
@@ -13,16 +13,24 @@
 #include <QScopeGuard>
 #include <QStyleFactory>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include <array>
+#include <cstdio>
 #include <memory>
+
+/// Takes the sheet out of the program. Outside of namespaces, as the macro wants it.
+static void removeSheet()
+{
+    Q_CLEANUP_RESOURCE(darkstyle);
+}
 
 namespace {
 
 // What this program does instead of its tests.
 constexpr const char *firstStyleWins = "--first-style-wins";
 constexpr const char *installedFont = "--installed-font";
+constexpr const char *withoutSheet = "--without-sheet";
 
 // Exit codes of installedFont, besides the points by which the font has grown.
 constexpr int pixelSizeStood = 100;
@@ -49,6 +57,21 @@ int growthOfInstalledFont()
         return pixelSizeStood;
     }
     return shown.pointSize() - font.pointSize();
+}
+
+/// Starts a window in a program that has no sheet, and tells by the exit code whether it looks as
+/// the palette alone makes it.
+int lookWithoutSheet()
+{
+    auto *const style = new DarkStyle;
+    removeSheet();
+    QApplication::setStyle(style);
+    TestWindow world;
+    world.construct();
+    std::fflush(stdout);
+    const bool darkAlone = qApp->styleSheet().isEmpty()
+                           && QApplication::palette().color(QPalette::Window) == QColor(48, 48, 48);
+    return darkAlone ? 0 : 1;
 }
 
 const QString sheetResource = QStringLiteral(":/darkstyle/darkstyle.qss");
@@ -112,6 +135,7 @@ private slots:
     void fontAtStart_data();
     void fontAtStart();
     void polishSetsTheSheet();
+    void missingSheetIsTold();
     void polishWithoutApplication();
 
 private:
@@ -319,6 +343,18 @@ void TestDarkStyle::polishSetsTheSheet()
     QCOMPARE(qApp->styleSheet().toLatin1().replace('\n', "\r\n"), readFile(sheetResource));
 }
 
+void TestDarkStyle::missingSheetIsTold()
+{
+    QProcess program;
+    program.setWorkingDirectory(startFolder); // the folder of this test is to be removed
+    program.start(QCoreApplication::applicationFilePath(), {QLatin1String(withoutSheet)});
+    QVERIFY(program.waitForFinished());
+    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program.exitCode(), 0);
+    QCOMPARE(program.readAllStandardOutput().replace('\r', ""),
+             QByteArray("Unable to set stylesheet, file not found\n"));
+}
+
 void TestDarkStyle::polishWithoutApplication()
 {
     const QFont font = QApplication::font();
@@ -338,6 +374,9 @@ int main(int argc, char *argv[])
     }
     if (app.arguments().contains(QLatin1String(installedFont))) {
         return growthOfInstalledFont();
+    }
+    if (app.arguments().contains(QLatin1String(withoutSheet))) {
+        return lookWithoutSheet();
     }
     TestDarkStyle test;
     return QTest::qExec(&test, argc, argv);

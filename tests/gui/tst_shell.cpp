@@ -43,6 +43,8 @@ private slots:
     void closeButtonHides();
     void minimise();
     void dragging();
+    void draggingByWhatLiesOnTheWindow_data();
+    void draggingByWhatLiesOnTheWindow();
     void trayMenu();
     void messageBoxDoesNotEndTheProgram();
     void trayActivation();
@@ -156,6 +158,39 @@ void TestShell::dragging()
     send(QEvent::MouseButtonRelease, {20, 5}, Qt::LeftButton, Qt::NoButton);
     send(QEvent::MouseMove, {90, 95}, Qt::NoButton, Qt::LeftButton);
     QCOMPARE(window.pos(), before + QPoint(30, 40));
+}
+
+void TestShell::draggingByWhatLiesOnTheWindow_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("drags");
+    QTest::newRow("title") << "Title" << true;
+    QTest::newRow("text of a page") << "label_2" << true;
+    QTest::newRow("slider") << "horizontalSlider" << false;
+    QTest::newRow("button") << "closeButton" << false;
+    QTest::newRow("box") << "CheckBox_AutoDim" << false;
+}
+
+/// The press goes the way of a real one, through the native window to the widget under it.
+void TestShell::draggingByWhatLiesOnTheWindow()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, drags);
+    TestWindow world;
+    world.writeSettings("backlight_on=true\nbrightlevel=50\n");
+    MainWindow &window = world.start();
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QWindow *const native = window.windowHandle();
+    const QPoint before = window.pos();
+    auto *const under = world.get<QWidget>(qPrintable(name));
+    const QPoint from = under->mapTo(&window, under->rect().center());
+    const QPoint way(30, 40); // far enough to let go beside a button
+    QTest::mousePress(native, Qt::LeftButton, Qt::NoModifier, from);
+    QTest::mouseMove(native, from + way);
+    QCOMPARE(window.pos(), drags ? before + way : before);
+    QTest::mouseRelease(native, Qt::LeftButton, Qt::NoModifier, from + way);
+    QVERIFY(window.isVisible());
 }
 
 void TestShell::trayMenu()
