@@ -16,7 +16,7 @@ enum ExitCode {
 };
 
 /// Where the Service Server listens; fixed on both sides.
-constexpr char serverAddress[] = "127.0.0.9";
+constexpr const char *serverAddress = "127.0.0.9";
 constexpr quint16 serverPort = 52316;
 
 struct Options

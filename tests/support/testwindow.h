@@ -33,7 +33,7 @@ public:
     Q_DISABLE_COPY(TestWindow)
 
     /// The settings file as an earlier run left it.
-    void writeSettings(const QByteArray &lines)
+    void writeSettings(const QByteArray &lines) const
     {
         writeFile(settings.settingsIni(), "[settings]\n" + lines);
     }
