@@ -14,6 +14,7 @@ uninstall_key='HKLM\Software\Microsoft\Windows\CurrentVersion\Uninstall\Lumikey'
 run_key='HKCU\Software\Microsoft\Windows\CurrentVersion\Run'
 
 failures=0
+finished=false
 
 check() { # what, command...
     local what=$1
@@ -28,6 +29,7 @@ check() { # what, command...
 
 # Ends the test: green when nothing failed.
 finish() {
+    finished=true
     printf '%d checks failed\n' "$failures"
     [ "$failures" -eq 0 ]
 }
@@ -53,7 +55,12 @@ make_world() {
     mkdir -p "$TMPDIR" "$HOME/Documents"
     start_display
     start_wine
-    trap 'wineserver -k 2>/dev/null || true; clean_up' EXIT
+    trap 'tell_early_end "$BASH_COMMAND"; wineserver -k 2>/dev/null || true; clean_up' EXIT
+}
+
+# A command that fails outside a check ends the test, and may say nothing itself.
+tell_early_end() { # the command
+    $finished || printf 'error: the test ended early, at: %s\n' "$1" >&2
 }
 
 # The path here of a path there.
@@ -79,12 +86,23 @@ silently() { # program, arguments...
     wine "$program" /S "$@" || code=$?
 }
 
-# An uninstaller goes on as a copy of itself after it has returned. $1 is the program's folder.
+# Whether all programs of the prefix end in time.
+everything_ends() { timeout 60 wineserver -w; }
+
+# An uninstaller goes on as a copy of itself after it has returned, and its exit code says no more
+# than that the copy was started. $1 is the program's folder.
 uninstall_silently() {
     silently "$1\\Uninstall.exe"
-    within 30 not is_registered || true
-    # The copy, too, has ended when nothing of the prefix runs any more.
-    timeout 60 wineserver -w || true
+    check 'the uninstaller starts' is "$code" 0
+    check 'nothing is registered any more' within 60 not is_registered
+    check "the uninstaller's copy ends" everything_ends
+}
+
+# The same without a copy: the exit code tells how it went, but the uninstaller itself stays.
+uninstall_without_copy() {
+    local arguments
+    read -ra arguments <<<"_?=$1" # it wants blanks without quotes
+    silently "$1\\Uninstall.exe" "${arguments[@]}"
 }
 
 # --- the program ---------------------------------------------------------------------------------
@@ -127,7 +145,8 @@ list_files() {
 list_registry() {
     local hive
     for hive in HKLM HKU; do
-        wine reg export "$hive" "Z:${scratch//\//\\}\\$hive.reg" /y >/dev/null
+        wine reg export "$hive" "Z:${scratch//\//\\}\\$hive.reg" /y >/dev/null \
+            || fail "the registry cannot be read: $hive"
         # With each value goes the key that it is of.
         iconv -f UTF-16 -t UTF-8 "$scratch/$hive.reg" | tr -d '\r' \
             | awk '/^\[/ { key = $0; print; next } NF { print key " " $0 }'
@@ -136,7 +155,7 @@ list_registry() {
 
 # look NAME: keeps what there is under this name.
 look() {
-    timeout 60 wineserver -w || true
+    check "all has ended before the look: $1" everything_ends
     list_files | sort >"$scratch/$1.files"
     list_registry | sort >"$scratch/$1.registry"
 }
