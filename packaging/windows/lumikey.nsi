@@ -6,13 +6,15 @@
 ;   FILES              the list of DIST's files and folders, as macros
 ;   COMPRESSOR, OUTPUT how to pack, and the installer's own file
 ;
-; Exit codes: 0 done, 1 given up by the user, 2 failed, 3 a newer version is installed, 4 the folder
-; is refused, 5 the running program could not be ended, 6 rights are missing.
+; Exit codes: 0 done, 1 given up by the user, 2 failed (a file could not be written or taken away),
+; 3 a newer version is installed, 4 the folder is refused, 5 the running program could not be ended,
+; 6 rights are missing.
 
 Unicode true
 Target amd64-unicode
 SetCompressor ${COMPRESSOR}
 SetDateSave on
+AllowSkipFiles off ; whoever is asked may try a file again or give up; silence gives up
 RequestExecutionLevel admin
 ManifestDPIAware true
 ManifestSupportedOS all
@@ -53,6 +55,7 @@ VIAddVersionKey LegalCopyright "${PUBLISHER}"
 
 Var InstalledFolder  ; of the version that is there, "" when there is none
 Var WelcomeText
+Var FirstNewFolder   ; the first one on the way to $INSTDIR that the installation made
 Var IsUpgrade        ; in the uninstaller: 1 when the installer calls it to make room
 
 !define MUI_ICON "${ICON}"
@@ -100,6 +103,40 @@ Var IsUpgrade        ; in the uninstaller: 1 when the installer calls it to make
     ${If} $0 != "Admin"
         !insertmacro Refuse ${EXIT_RIGHTS} "${NAME} is installed and removed by administrators."
     ${EndIf}
+!macroend
+
+; --- taking away ---------------------------------------------------------------------------------
+
+; Only by name and never a folder with what is in it: what others put there is theirs. Branding that
+; a vendor has changed, and which so has another date, stays for the version that comes.
+!macro TakeAway FOLDER PATH SOURCE
+    !if "${FOLDER}" == "branding"
+        GetFileTimeLocal "${DIST}/${SOURCE}" $0 $1
+        GetFileTime "$INSTDIR\${PATH}" $2 $3
+        ${If} $IsUpgrade = 0
+        ${OrIf} "$0 $1" == "$2 $3"
+            Delete "$INSTDIR\${PATH}"
+        ${EndIf}
+    !else
+        Delete "$INSTDIR\${PATH}"
+    !endif
+!macroend
+
+!macro TakeFolderAway FOLDER
+    RMDir "$INSTDIR\${FOLDER}"
+!macroend
+
+; Takes away the folder and those above it that the installation made, where they are empty now.
+!macro RemoveFolders
+    GetFullPathName $0 "$INSTDIR"
+    ${Do}
+        RMDir "$0"
+        ${If} $0 == $FirstNewFolder
+        ${OrIf} $0 == ""
+            ${ExitDo}
+        ${EndIf}
+        ${GetParent} $0 $0
+    ${Loop}
 !macroend
 
 ; --- installing ----------------------------------------------------------------------------------
@@ -181,14 +218,17 @@ Function CheckChosenFolder
     ${EndIf}
 FunctionEnd
 
-; What a vendor has made of the branding outlives an upgrade.
+; What a vendor has made of the branding outlives an upgrade. "SetOverwrite off" would keep it, too,
+; but passes over any failure.
 !macro LayDown FOLDER PATH SOURCE
     SetOutPath "$INSTDIR\${FOLDER}"
     !if "${FOLDER}" == "branding"
-        SetOverwrite off
+        ${IfNot} ${FileExists} "$INSTDIR\${PATH}"
+            File "${DIST}/${SOURCE}"
+        ${EndIf}
+    !else
+        File "${DIST}/${SOURCE}"
     !endif
-    File "${DIST}/${SOURCE}"
-    SetOverwrite on
 !macroend
 
 ; Leaves on the stack the first folder on the way to $INSTDIR that is not there yet.
@@ -208,6 +248,12 @@ Function FirstNewFolder
     Exch $0
 FunctionEnd
 
+!macro AbortOnErrors
+    ${If} ${Errors}
+        Abort
+    ${EndIf}
+!macroend
+
 Section
     Call EndProgram
     Pop $0
@@ -218,20 +264,31 @@ Section
     ; Each version knows its own files, and this one's may be others.
     ${If} $InstalledFolder != ""
         DetailPrint "Removing the version before"
-        ExecWait '"$INSTDIR\Uninstall.exe" /S /UPGRADE _?=$INSTDIR'
+        ClearErrors
+        ExecWait '"$INSTDIR\Uninstall.exe" /S /UPGRADE _?=$INSTDIR' $0
+        ${If} ${Errors}
+        ${OrIf} $0 <> 0
+            !insertmacro Refuse ${EXIT_FAILED} "The version before could not be removed from \
+                $INSTDIR, so ${NAME} ${VERSION} is not installed.$\r$\n$\r$\nIf its Uninstall.exe \
+                is damaged, delete that file and start this again."
+        ${EndIf}
     ${Else}
         Call FirstNewFolder
-        Pop $0
-        WriteRegStr HKLM "${UNINSTALL_KEY}" FirstNewFolder "$0"
+        Pop $FirstNewFolder
     ${EndIf}
 
+    ; A file that cannot be written ends the section by itself.
+    ClearErrors
     !insertmacro EachFile LayDown
     SetOutPath "$INSTDIR"
     WriteUninstaller "$INSTDIR\Uninstall.exe"
     CreateShortCut "$SMPROGRAMS\${NAME}.lnk" "$INSTDIR\${NAME}.exe"
+    !insertmacro AbortOnErrors
 
+    ${If} $InstalledFolder == ""
+        WriteRegStr HKLM "${UNINSTALL_KEY}" FirstNewFolder "$FirstNewFolder"
+    ${EndIf}
     WriteRegStr HKLM "${UNINSTALL_KEY}" DisplayName "${NAME}"
-    WriteRegStr HKLM "${UNINSTALL_KEY}" DisplayVersion "${VERSION}"
     WriteRegStr HKLM "${UNINSTALL_KEY}" Publisher "${PUBLISHER}"
     WriteRegStr HKLM "${UNINSTALL_KEY}" DisplayIcon "$INSTDIR\${NAME}.exe"
     WriteRegStr HKLM "${UNINSTALL_KEY}" InstallLocation "$INSTDIR"
@@ -240,7 +297,32 @@ Section
     WriteRegDWORD HKLM "${UNINSTALL_KEY}" EstimatedSize ${SIZE_KB}
     WriteRegDWORD HKLM "${UNINSTALL_KEY}" NoModify 1
     WriteRegDWORD HKLM "${UNINSTALL_KEY}" NoRepair 1
+    WriteRegStr HKLM "${UNINSTALL_KEY}" DisplayVersion "${VERSION}"
+    !insertmacro AbortOnErrors
 SectionEnd
+
+; Takes back what was laid down before the section ended in failure: half a program is none. Where a
+; version was before, its files are gone, but its entry and its way out stay: by them this can be
+; tried again in the same folder, or given up.
+Function .onInstFailed
+    SetErrorLevel ${EXIT_FAILED}
+    SetOutPath "$TEMP" ; a folder that somebody is in cannot be removed
+    StrCpy $IsUpgrade 1 ; branding that a vendor has changed stays
+    !insertmacro EachFile TakeAway
+    !insertmacro EachFolder TakeFolderAway
+    StrCpy $1 ""
+    ${If} $InstalledFolder == ""
+        Delete "$SMPROGRAMS\${NAME}.lnk"
+        Delete "$INSTDIR\Uninstall.exe"
+        !insertmacro RemoveFolders
+        DeleteRegKey HKLM "${UNINSTALL_KEY}"
+    ${Else}
+        StrCpy $1 "The version before is removed already. "
+    ${EndIf}
+    MessageBox MB_OK|MB_ICONSTOP "${NAME} ${VERSION} could not be put into $INSTDIR and is not \
+        installed. $1Your settings stay as they are.$\r$\n$\r$\nOnce its files can be written, \
+        start this again." /SD IDOK
+FunctionEnd
 
 ; By way of the desktop, which has the user's own rights and not the installer's.
 Function StartProgram
@@ -259,39 +341,6 @@ Function un.onInit
         StrCpy $IsUpgrade 1
     ${EndIf}
     ClearErrors
-FunctionEnd
-
-; Only by name and never a folder with what is in it: what others put there is theirs. Branding that
-; a vendor has changed, and which so has another date, stays for the version that comes.
-!macro TakeAway FOLDER PATH SOURCE
-    !if "${FOLDER}" == "branding"
-        GetFileTimeLocal "${DIST}/${SOURCE}" $0 $1
-        GetFileTime "$INSTDIR\${PATH}" $2 $3
-        ${If} $IsUpgrade = 0
-        ${OrIf} "$0 $1" == "$2 $3"
-            Delete "$INSTDIR\${PATH}"
-        ${EndIf}
-    !else
-        Delete "$INSTDIR\${PATH}"
-    !endif
-!macroend
-
-!macro TakeFolderAway FOLDER
-    RMDir "$INSTDIR\${FOLDER}"
-!macroend
-
-; Takes away the folder and those above it that the installation made, where they are empty now.
-Function un.RemoveFolders
-    ReadRegStr $0 HKLM "${UNINSTALL_KEY}" FirstNewFolder
-    GetFullPathName $1 "$INSTDIR"
-    ${Do}
-        RMDir "$1"
-        ${If} $1 == $0
-        ${OrIf} $1 == ""
-            ${ExitDo}
-        ${EndIf}
-        ${GetParent} $1 $1
-    ${Loop}
 FunctionEnd
 
 ; Takes away the autostart entry of everybody who is signed in, where it names a program that is
@@ -340,10 +389,12 @@ Section Uninstall
         ${EndIf}
     ${EndIf}
 
-    !insertmacro EachFile TakeAway
+    ; First, because a program that stays should stay whole.
+    Delete "$INSTDIR\${NAME}.exe"
     ${If} ${FileExists} "$INSTDIR\${NAME}.exe"
         !insertmacro Refuse ${EXIT_FAILED} "${NAME} could not be removed from $INSTDIR."
     ${EndIf}
+    !insertmacro EachFile TakeAway
     ${If} $IsUpgrade = 1
         !insertmacro EachFolder TakeFolderAway
         Return
@@ -353,7 +404,8 @@ Section Uninstall
     !insertmacro EachFolder TakeFolderAway
     Delete "$SMPROGRAMS\${NAME}.lnk"
     Delete "$INSTDIR\Uninstall.exe"
-    Call un.RemoveFolders
+    ReadRegStr $FirstNewFolder HKLM "${UNINSTALL_KEY}" FirstNewFolder
+    !insertmacro RemoveFolders
     DeleteRegKey HKLM "${UNINSTALL_KEY}"
     Call un.RemoveAutostart
     Call un.OfferToRemoveSettings
