@@ -134,10 +134,10 @@ SingleApplicationPrivate::Role SingleApplicationPrivate::takeRole(bool allowSeco
 void SingleApplicationPrivate::giveRoleBack()
 {
     socket.reset();
-    const auto startLock = platform.acquireLock(serverName, startLockTimeoutMs);
     if (!block) {
         return;
     }
+    const auto startLock = platform.acquireLock(serverName, startLockTimeoutMs);
     freeBlockLock(serverName);
     block->lock();
     if (server) {

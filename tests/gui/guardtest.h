@@ -122,6 +122,7 @@ inline std::optional<int> runCopy(int argc, char **argv)
         say("front " + std::to_string(processId));
     }
     if (platform.ended) {
+        say("queued " + std::to_string(platform.locks));
         return platform.ended;
     }
     QObject::connect(&application, &SingleApplication::instanceStarted, [] { say("started"); });

@@ -58,6 +58,7 @@ void TestInstances::secondStart()
     QVERIFY(copy.leaves());
     QTRY_COMPARE(started->count(), 1);
     QVERIFY(copy.says("front " + QByteArray::number(QCoreApplication::applicationPid())));
+    QVERIFY(copy.says("queued 1"));
     QCOMPARE(readBlock(name)->secondaryCount, 0U);
 }
 

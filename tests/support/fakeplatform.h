@@ -24,6 +24,7 @@ public:
     std::optional<QString> userName() const override { return user; }
     std::shared_ptr<void> acquireLock(const QString &name, int timeoutMs) override
     {
+        ++locks;
         return createPlatform()->acquireLock(name, timeoutMs);
     }
     void letComeToFront(qint64 processId) override { letToFront.append(processId); }
@@ -99,6 +100,7 @@ public:
     std::function<void()> whenLibraryIsSet;
 
     // What was asked of it
+    int locks = 0;
     int polls = 0;
     std::function<void()> resumeNotice;
     QVector<int> sleeps;           ///< milliseconds
