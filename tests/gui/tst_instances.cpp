@@ -36,6 +36,7 @@ private slots:
     void startsComeOneByOne();
     void endsComeOneByOne();
     void tooSmallABlock();
+    void noBlockAtAll();
     void handOverAndTakeBack();
     void takeBackTooLate();
 
@@ -239,6 +240,22 @@ void TestInstances::tooSmallABlock()
     OtherCopy copy(QStringLiteral("small"), false, SingleApplication::PerUser);
     const bool rounded = memory.size() >= static_cast<int>(sizeof(InstanceBlock));
     QVERIFY(rounded ? copy.stays() : copy.leaves()); // some systems give whole pages
+}
+
+void TestInstances::noBlockAtAll()
+{
+    const QByteArray before = qgetenv("TMPDIR");
+    // Not a folder, so nothing can be made in it. In place of one that is missing the toolkit takes
+    // the root of the disk, where the superuser may write.
+    qputenv("TMPDIR", QCoreApplication::applicationFilePath().toLocal8Bit());
+    const bool made = QSharedMemory(QStringLiteral("probe")).create(1);
+    OtherCopy copy(QStringLiteral("homeless"), false, SingleApplication::PerUser);
+    if (before.isNull()) {
+        qunsetenv("TMPDIR");
+    } else {
+        qputenv("TMPDIR", before);
+    }
+    QVERIFY(made ? copy.stays() : copy.leaves()); // some systems make blocks without a folder
 }
 
 void TestInstances::handOverAndTakeBack()
