@@ -1,6 +1,7 @@
 #include "guardtest.h"
 
 #include "app/connectionmessage.h"
+#include "tests/support/testsystem.h"
 
 #include <QLocalServer>
 #include <QLocalSocket>
@@ -37,6 +38,7 @@ private slots:
     void endsComeOneByOne();
     void tooSmallABlock();
     void noBlockAtAll();
+    void whoMayConnect();
     void handOverAndTakeBack();
     void takeBackTooLate();
 
@@ -256,6 +258,21 @@ void TestInstances::noBlockAtAll()
         qputenv("TMPDIR", before);
     }
     QVERIFY(made ? copy.stays() : copy.leaves()); // some systems make blocks without a folder
+}
+
+void TestInstances::whoMayConnect()
+{
+    const auto own = TestSystem::localServerPermissions(name);
+    if (!own) {
+        QSKIP("local servers have no files here");
+    }
+    constexpr QFile::Permissions others = QFile::WriteGroup | QFile::WriteOther;
+    QCOMPARE(*own & (QFile::WriteOwner | others), QFile::Permissions(QFile::WriteOwner));
+
+    OtherCopy forAll(QStringLiteral("anybody"), false, 0);
+    QVERIFY(forAll.stays());
+    const auto shared = TestSystem::localServerPermissions(ownName(QStringLiteral("anybody"), 0));
+    QCOMPARE(*shared & others, others);
 }
 
 void TestInstances::handOverAndTakeBack()

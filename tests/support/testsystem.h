@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QFile>
 #include <QProcessEnvironment>
 #include <QString>
 #include <QStringList>
@@ -34,6 +35,10 @@ QStringList commandWithRights(bool elevated, const QString &program);
 /// Whether a reader that is busy finds what a process wrote to it that has ended since. A named
 /// pipe without a buffer, as the toolkit makes them, takes it along.
 bool messagesOutliveTheirSender();
+
+/// The users who may connect to a local server: the permissions of its file, read by its name.
+/// Nothing where the system keeps no file for it.
+std::optional<QFile::Permissions> localServerPermissions(const QString &name);
 
 /// A command that becomes the program named behind it, in a network that has no addresses; empty
 /// where the system has none such.

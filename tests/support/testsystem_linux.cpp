@@ -118,6 +118,11 @@ bool TestSystem::messagesOutliveTheirSender()
     return true;
 }
 
+std::optional<QFile::Permissions> TestSystem::localServerPermissions(const QString &name)
+{
+    return QFile::permissions(QDir::temp().filePath(name));
+}
+
 QStringList TestSystem::commandWithoutNetwork()
 {
     QStringList command{QStringLiteral("unshare"), QStringLiteral("--net")};

@@ -104,6 +104,11 @@ bool TestSystem::messagesOutliveTheirSender()
     return false;
 }
 
+std::optional<QFile::Permissions> TestSystem::localServerPermissions(const QString & /*name*/)
+{
+    return std::nullopt;
+}
+
 QStringList TestSystem::commandWithoutNetwork()
 {
     return {};
