@@ -183,10 +183,15 @@ void TestDimPolls::inputIsTimedAfresh()
     world.clock = (qint64{5} << 32) - 3000; // three seconds before the low 32 bits wrap
     world.startDimming();
     world.clock += 4000;
+    world.platform.whilePolled = [&world] {
+        world.clock += 60;
+    };
     world.pollWithPress(DimWorld::aKey);
-    world.clock += 4900 - 100;
+    world.platform.whilePolled = nullptr;
+    world.clock += 4900 - 1; // since the keys were read, not since the poll began
     world.poll();
     QCOMPARE(world.shown(), 100);
+    world.clock += 1 - 100;
     world.poll();
     QCOMPARE(world.shown(), 98);
 }

@@ -40,6 +40,9 @@ public:
     KeyPresses keysPressedSinceLastPoll() override
     {
         ++polls;
+        if (whilePolled) {
+            whilePolled();
+        }
         return std::exchange(presses, KeyPresses());
     }
     bool isResumeMessage(const QByteArray &eventType, const void * /*message*/) const override
@@ -90,6 +93,7 @@ public:
     std::optional<QString> autostart;
     std::optional<QString> user = QStringLiteral("somebody");
     KeyPresses presses;                ///< seen by one poll
+    std::function<void()> whilePolled; ///< happens during each poll, before it has its answer
     std::function<void()> whileAsleep; ///< happens during each sleep
     bool elevated = false;
     std::optional<quint32> elevationError;
