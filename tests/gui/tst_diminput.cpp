@@ -8,6 +8,7 @@ private slots:
     void mouseButtons_data();
     void mouseButtons();
     void mouseBoxIsReadByEveryPoll();
+    void openingThePickerCounts();
     void effectStopsAfterTheInputWasNoted();
     void effectWhileDimmed();
     void uncheckingWhileDimmed();
@@ -63,6 +64,19 @@ void TestDimInput::mouseBoxIsReadByEveryPoll()
     QCOMPARE(world.shown(), 0);
     world.pollWithPress(DimWorld::leftButton);
     QCOMPARE(world.shown(), 100);
+}
+
+void TestDimInput::openingThePickerCounts()
+{
+    DimWorld world;
+    world.startDimming();
+    world.clock += 4900;
+    world.get<QAbstractButton>("colorpick1")->click();
+    world.clock += 4900 - 1;
+    world.poll();
+    QCOMPARE(world.shown(), 100);
+    world.poll();
+    QCOMPARE(world.shown(), 98);
 }
 
 void TestDimInput::effectStopsAfterTheInputWasNoted()
