@@ -13,6 +13,8 @@
 namespace {
 
 constexpr qint64 idleMs = 5000;
+constexpr int soonerThanIdleMs = 4500;
+constexpr int longerThanIdleMs = 6000;
 /// What a busy machine may take longer.
 constexpr int slackMs = 2000;
 /// Until a program that starts with auto-dim on is dark: it applies the settings, waits five
@@ -23,6 +25,8 @@ constexpr int darkAfterStartMs = 20'000;
 constexpr const char *dimSettings = "backlight_on=true\nbrightlevel=9\nZone1Color=255 0 0\n"
                                     "AutoDim=true\ndimtimer=0\n";
 const QString dimLine = QStringLiteral("4026537472,4043309056,4060086272,4076863488,0");
+const QString breathLine = QStringLiteral("4026537472,4043309056,4060086272,4076863488,268607488");
+const QString twoPercentLine = QStringLiteral("4026533120,4043309056,4060086272,4076863488,0");
 
 /// The brightness that a line shows in its left word, whose colour is pure red.
 int shownBrightness(const QString &line)
@@ -36,6 +40,14 @@ int shownBrightness(const QString &line)
 bool wakeComes()
 {
     return QTest::qWaitFor([] { return ServiceClient::readLine() == Lines::wake; });
+}
+
+/// Turns the wheel over a place of the window, which is no input: button 4 is up, 5 is down.
+void turnWheel(const QPoint &place, int button)
+{
+    ProgramWindow::input({QStringLiteral("mousemove"), QString::number(place.x()),
+                          QString::number(place.y()), QStringLiteral("click"),
+                          QString::number(button)});
 }
 
 void pressKey()
@@ -56,8 +68,11 @@ private slots:
     void nightAndMorning();
     void mouseWakesWithTheBox();
     void hiddenInTheTray();
+    void effectBoxAndSlider();
 
 private:
+    /// Starts the program, and reads the lines that wake the keyboard.
+    void startShown(const QByteArray &settings);
     /// Reads lines until @p last comes; each brightness seen, once. Empty when it does not come.
     QVector<int> brightnessesUntil(const QString &last, int timeoutMs);
     QPoint onScreen(const char *name) const { return ProgramWindow::onScreen(*twin->window, name); }
@@ -80,6 +95,18 @@ void TestDimming::init()
     program = std::make_unique<ProgramProcess>();
 }
 
+void TestDimming::startShown(const QByteArray &settings)
+{
+    ProgramProcess::writeSettings(settings);
+    QVERIFY(program->startAndServe());
+    QTRY_VERIFY(ProgramWindow::shown() != 0);
+    QTest::qWait(Lines::appliedAfterMs);
+    twin = std::make_unique<TestWindow>();
+    twin->construct();
+    QCOMPARE(ServiceClient::readLine(), Lines::wake);
+    QCOMPARE(ServiceClient::readLine(), Lines::wake);
+}
+
 QVector<int> TestDimming::brightnessesUntil(const QString &last, int timeoutMs)
 {
     QVector<int> seen;
@@ -100,14 +127,7 @@ QVector<int> TestDimming::brightnessesUntil(const QString &last, int timeoutMs)
 
 void TestDimming::nightAndMorning()
 {
-    ProgramProcess::writeSettings(Lines::threeZonesSettings);
-    QVERIFY(program->startAndServe());
-    QTRY_VERIFY(ProgramWindow::shown() != 0);
-    QTest::qWait(Lines::appliedAfterMs);
-    twin = std::make_unique<TestWindow>();
-    twin->construct();
-    QCOMPARE(ServiceClient::readLine(), Lines::wake);
-    QCOMPARE(ServiceClient::readLine(), Lines::wake);
+    startShown(Lines::threeZonesSettings);
     QCOMPARE(ServiceClient::readLine(), Lines::threeZones);
 
     const QPoint box = onScreen("CheckBox_AutoDim");
@@ -156,22 +176,13 @@ void TestDimming::nightAndMorning()
 
 void TestDimming::mouseWakesWithTheBox()
 {
-    ProgramProcess::writeSettings(QByteArray(dimSettings) + "touchwake=true\n");
-    QVERIFY(program->startAndServe());
-    QTRY_VERIFY(ProgramWindow::shown() != 0);
-    QTest::qWait(Lines::appliedAfterMs);
-    twin = std::make_unique<TestWindow>();
-    twin->construct();
+    startShown(QByteArray(dimSettings) + "touchwake=true\n");
     const QPoint title = onScreen("Title");
-    ServiceClient::readLine();
-    ServiceClient::readLine();
     QCOMPARE(ServiceClient::readLine(), dimLine);
     QTRY_COMPARE_WITH_TIMEOUT(ServiceClient::readLine(), Lines::off, darkAfterStartMs);
 
     // The wheel and the pointer's way are no input.
-    ProgramWindow::input({QStringLiteral("mousemove"), QString::number(title.x()),
-                          QString::number(title.y()), QStringLiteral("click"),
-                          QStringLiteral("5")});
+    turnWheel(title, 5);
     QTest::qWait(500);
     QCOMPARE(ServiceClient::readLine(), Lines::off);
 
@@ -204,6 +215,44 @@ void TestDimming::hiddenInTheTray()
     QCOMPARE(ServiceClient::readLine(), Lines::wake);
     QCOMPARE(ServiceClient::readLine(), dimLine);
     QCOMPARE(ProgramWindow::shown(), 0ULL);
+}
+
+/// What keeps the light from dimming, by hand. The mouse does not count here, so that nothing but
+/// the end of what kept it can be seen.
+void TestDimming::effectBoxAndSlider()
+{
+    startShown("backlight_on=true\nbrightlevel=9\nZone1Color=255 0 0\n");
+    QCOMPARE(ServiceClient::readLine(), dimLine);
+    const QPoint box = onScreen("CheckBox_AutoDim");
+    const QPoint effect = onScreen("Combo_Effect");
+    const QPoint slider = onScreen("horizontalSlider");
+
+    // While an effect is chosen, nothing dims; without it the idle time has long been over.
+    ProgramWindow::click(box);
+    turnWheel(effect, 5);
+    QTRY_COMPARE(ServiceClient::readLine(), breathLine);
+    QTest::qWait(longerThanIdleMs);
+    QCOMPARE(ServiceClient::readLine(), breathLine);
+    turnWheel(effect, 4);
+    QTRY_COMPARE_WITH_TIMEOUT(ServiceClient::readLine(), Lines::off, soonerThanIdleMs);
+
+    // Unchecked while it is dark: lit again, without waking the keyboard, and to be moved again.
+    ProgramWindow::click(box);
+    QTRY_COMPARE(ProgramProcess::stored("AutoDim"), QStringLiteral("false"));
+    QTest::qWait(300); // the words have followed the slider
+    QCOMPARE(ServiceClient::readLine(), dimLine);
+    ProgramWindow::click(slider); // takes the focus
+    ProgramWindow::press(
+        {QStringLiteral("Home"), QStringLiteral("Right"), QStringLiteral("Right")});
+    QTRY_COMPARE(ProgramProcess::stored("brightlevel"), QStringLiteral("2"));
+
+    // Two percent stay; one more does not.
+    ProgramWindow::click(box);
+    QTRY_COMPARE(ProgramProcess::stored("AutoDim"), QStringLiteral("true"));
+    QTest::qWait(longerThanIdleMs);
+    QCOMPARE(ServiceClient::readLine(), twoPercentLine);
+    turnWheel(slider, 4);
+    QTRY_COMPARE_WITH_TIMEOUT(ServiceClient::readLine(), Lines::off, soonerThanIdleMs);
 }
 
 QTEST_MAIN(TestDimming)
