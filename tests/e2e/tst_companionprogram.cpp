@@ -1,6 +1,8 @@
 #include "tests/e2e/programlines.h"
 #include "tests/support/companionprocess.h"
 #include "tests/support/programprocess.h"
+#include "tests/support/programtwin.h"
+#include "tests/support/programwindow.h"
 #include "tests/support/serviceclient.h"
 
 #include <QElapsedTimer>
@@ -10,6 +12,8 @@ namespace {
 
 /// The program looks once a second; the words follow a tenth of a second later.
 constexpr int followsWithinMs = 5000;
+/// Auto-dim waits for five seconds and takes half of one for nine percent.
+constexpr int darkWithinMs = 10'000;
 
 } // namespace
 
@@ -19,23 +23,28 @@ class TestCompanionProgram : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase();
     void init();
     void missingCompanionIsLogged();
     void wordsFollow();
     void nothingNewChangesNothing();
     void hangingCompanionHoldsNobodyUp();
     void companionComesAndGoes();
+    void autoDimTakesItAtTheNextWake();
 
 private:
-    void startServing()
+    void startServing(int brightness = 100)
     {
-        ProgramProcess::writeSettings("backlight_on=true\nbrightlevel=100\nZone1Color=255 0 0\n");
+        ProgramProcess::writeSettings("backlight_on=true\nZone1Color=255 0 0\nbrightlevel="
+                                      + QByteArray::number(brightness) + '\n');
         QVERIFY(program->startAndServe());
         QTest::qWait(Lines::appliedAfterMs);
         QCOMPARE(ServiceClient::readLine(), Lines::wake);
         QCOMPARE(ServiceClient::readLine(), Lines::wake);
-        QCOMPARE(ServiceClient::readLine(), line(0xFF));
+        QCOMPARE(ServiceClient::readLine(), line(redAt(brightness)));
     }
+    /// What full red is at a brightness in percent.
+    static quint32 redAt(int brightness) { return static_cast<quint32>(255 * brightness / 100); }
     /// The line of a left zone of this red.
     static QString line(quint32 red)
     {
@@ -44,6 +53,11 @@ private:
 
     std::unique_ptr<ProgramProcess> program;
 };
+
+void TestCompanionProgram::initTestCase()
+{
+    ProgramTwin::takeOnItsLooks();
+}
 
 void TestCompanionProgram::init()
 {
@@ -113,11 +127,35 @@ void TestCompanionProgram::companionComesAndGoes()
     for (const int brightness : {80, 60, 40}) {
         CompanionProcess companion;
         QVERIFY2(companion.publish(QStringLiteral("lit,%1").arg(brightness)), companion.error());
-        const auto red = static_cast<quint32>(255 * brightness / 100);
-        QTRY_COMPARE_WITH_TIMEOUT(ServiceClient::readLine(), line(red), followsWithinMs);
+        QTRY_COMPARE_WITH_TIMEOUT(ServiceClient::readLine(), line(redAt(brightness)),
+                                  followsWithinMs);
         QVERIFY(companion.lock());
         companion.kill();
     }
+}
+
+void TestCompanionProgram::autoDimTakesItAtTheNextWake()
+{
+    startServing(9);
+    const ProgramTwin twin("backlight_on=true\n");
+    twin.click("CheckBox_AutoDim");
+    QTRY_COMPARE(ProgramProcess::stored("AutoDim"), QStringLiteral("true"));
+    CompanionProcess companion;
+    QVERIFY2(companion.publish(QStringLiteral("lit,6")), companion.error());
+
+    // Dark after five seconds, on a way of odd steps.
+    QString now;
+    QElapsedTimer time;
+    for (time.start(); now != Lines::off && !time.hasExpired(darkWithinMs);) {
+        now = ServiceClient::readLine();
+        QVERIFY(now != line(redAt(6)));
+        QTest::qWait(15);
+    }
+    QCOMPARE(now, Lines::off);
+    QCOMPARE(ProgramProcess::stored("brightlevel"), QStringLiteral("9"));
+
+    ProgramWindow::press({QStringLiteral("a")});
+    QTRY_COMPARE_WITH_TIMEOUT(ServiceClient::readLine(), line(redAt(6)), followsWithinMs);
 }
 
 QTEST_MAIN(TestCompanionProgram)
