@@ -163,6 +163,16 @@ void TestPickerTyping::hexAfterAnotherEdit()
     QCOMPARE(edit->cursorPosition(), 6);
     QTest::keyClick(edit, Qt::Key_Backspace);
     QCOMPARE(edit->text(), QStringLiteral("11223"));
+
+    type(world, "leHex", QStringLiteral("123"));
+    QTest::keyClick(edit, Qt::Key_Left);
+    QTest::keyClick(edit, Qt::Key_4);
+    QCOMPARE(edit->text(), QStringLiteral("1122343"));
+
+    type(world, "leHex", QStringLiteral("123"));
+    edit->selectAll();
+    QTest::keyClick(edit, Qt::Key_4);
+    QCOMPARE(edit->text(), QStringLiteral("4"));
 }
 
 QTEST_MAIN(TestPickerTyping)
