@@ -56,6 +56,7 @@ VIAddVersionKey LegalCopyright "${PUBLISHER}"
 Var InstalledFolder  ; of the version that is there, "" when there is none
 Var WelcomeText
 Var FirstNewFolder   ; the first one on the way to $INSTDIR that the installation made
+Var IsLaidOver       ; 1 when a copy is there that no installer can remove
 Var IsUpgrade        ; in the uninstaller: 1 when the installer calls it to make room
 
 !define MUI_ICON "${ICON}"
@@ -148,6 +149,11 @@ Function .onInit
     ReadRegStr $InstalledFolder HKLM "${UNINSTALL_KEY}" InstallLocation
     ${If} $InstalledFolder == ""
     ${OrIfNot} ${FileExists} "$InstalledFolder\Uninstall.exe"
+        ; It has lost its way out, so it is laid over where it is, unless a folder was named.
+        ${If} $InstalledFolder != ""
+        ${AndIf} $INSTDIR == "${DEFAULT_FOLDER}"
+            StrCpy $INSTDIR $InstalledFolder
+        ${EndIf}
         StrCpy $InstalledFolder ""
         ${If} ${Silent}
             Call CheckFolder
@@ -275,6 +281,9 @@ Section
     ${Else}
         Call FirstNewFolder
         Pop $FirstNewFolder
+        ${If} ${FileExists} "$INSTDIR\${NAME}.exe"
+            StrCpy $IsLaidOver 1
+        ${EndIf}
     ${EndIf}
 
     ; A file that cannot be written ends the section by itself.
@@ -301,23 +310,27 @@ Section
     !insertmacro AbortOnErrors
 SectionEnd
 
-; Takes back what was laid down before the section ended in failure: half a program is none. Where a
-; version was before, its files are gone, but its entry and its way out stay: by them this can be
-; tried again in the same folder, or given up.
+; Takes back what was laid down before the section ended in failure: half a program is none. Where an
+; installed version was before, its files are gone, but its entry and its way out stay: by them this
+; can be tried again in the same folder, or given up. A copy that was laid over keeps what it has.
 Function .onInstFailed
     SetErrorLevel ${EXIT_FAILED}
     SetOutPath "$TEMP" ; a folder that somebody is in cannot be removed
-    StrCpy $IsUpgrade 1 ; branding that a vendor has changed stays
-    !insertmacro EachFile TakeAway
-    !insertmacro EachFolder TakeFolderAway
     StrCpy $1 ""
-    ${If} $InstalledFolder == ""
-        Delete "$SMPROGRAMS\${NAME}.lnk"
-        Delete "$INSTDIR\Uninstall.exe"
-        !insertmacro RemoveFolders
-        DeleteRegKey HKLM "${UNINSTALL_KEY}"
+    ${If} $IsLaidOver = 1
+        StrCpy $1 "The copy that was there may not start any more. "
     ${Else}
-        StrCpy $1 "The version before is removed already. "
+        StrCpy $IsUpgrade 1 ; branding that a vendor has changed stays
+        !insertmacro EachFile TakeAway
+        !insertmacro EachFolder TakeFolderAway
+        ${If} $InstalledFolder == ""
+            Delete "$SMPROGRAMS\${NAME}.lnk"
+            Delete "$INSTDIR\Uninstall.exe"
+            !insertmacro RemoveFolders
+            DeleteRegKey HKLM "${UNINSTALL_KEY}"
+        ${Else}
+            StrCpy $1 "The version before is removed already. "
+        ${EndIf}
     ${EndIf}
     MessageBox MB_OK|MB_ICONSTOP "${NAME} ${VERSION} could not be put into $INSTDIR and is not \
         installed. $1Your settings stay as they are.$\r$\n$\r$\nOnce its files can be written, \
