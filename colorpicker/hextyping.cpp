@@ -42,7 +42,7 @@ bool HexTyping::eventFilter(QObject *watched, QEvent *event)
             field->setText(typed);
         }
         break;
-    case QEvent::FocusOut:
+    case QEvent::FocusIn:
     case QEvent::MouseButtonPress:
         typed.clear();
         break;
@@ -54,7 +54,8 @@ bool HexTyping::eventFilter(QObject *watched, QEvent *event)
 
 bool HexTyping::goesOn(const QKeyEvent &event) const
 {
-    const bool edits = event.key() == Qt::Key_Backspace || isHexDigit(event.text());
+    const bool edits = !event.modifiers().testFlag(Qt::AltModifier)
+                       && (event.key() == Qt::Key_Backspace || isHexDigit(event.text()));
     return edits && typed.size() == shortLength && field->text() == writtenOut(typed)
            && !field->hasSelectedText() && field->cursorPosition() == field->text().size();
 }

@@ -173,6 +173,19 @@ void TestPickerTyping::hexAfterAnotherEdit()
     edit->selectAll();
     QTest::keyClick(edit, Qt::Key_4);
     QCOMPARE(edit->text(), QStringLiteral("4"));
+
+    type(world, "leHex", QStringLiteral("123"));
+    QTest::keyClick(edit, Qt::Key_4, Qt::AltModifier); // no typing, whatever it brings along
+    QCOMPARE(edit->text().left(6), QStringLiteral("112233"));
+
+    // Pasted by the button, and come back to.
+    world.get<QWidget>("svSelector")->setFocus();
+    QGuiApplication::clipboard()->setText(QStringLiteral("#0A0"));
+    world.window->pasteHex();
+    edit->setFocus();
+    edit->end(false);
+    QTest::keyClick(edit, Qt::Key_Backspace);
+    QCOMPARE(edit->text(), QStringLiteral("00aa0"));
 }
 
 QTEST_MAIN(TestPickerTyping)
