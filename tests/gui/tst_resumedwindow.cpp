@@ -1,3 +1,4 @@
+#include "tests/support/serviceclient.h"
 #include "tests/support/testwindow.h"
 
 #include <QAbstractEventDispatcher>
@@ -156,14 +157,20 @@ void TestResumedWindow::effectComesBack()
 /// The keyboard is another application's, and its colours are not told again.
 void TestResumedWindow::nothingComesBackInPerKeyMode()
 {
-    init();
+    const QString wake = QStringLiteral("3758616583,3758616583,3758616583,3758616583,0");
+    const QString black =
+        QString(blackLine).replace(QLatin1Char(' '), QLatin1Char(',')) + QStringLiteral(",0");
     world->writeSettings("backlight_on=true\nbrightlevel=100\nZone1Color=255 0 0\nPerKey=true\n");
-    const MainWindow &window = world->construct();
-    QCOMPARE(words(window), QStringLiteral("3758616583 3758616583 3758616583 3758616583"));
+    world->construct();
+    for (int answer = 0; answer < 3; ++answer) {
+        QCOMPARE(ServiceClient::readLine(), wake);
+    }
     world->window->suspendresumeaction();
     world->window->LoadSettings();
-    QTest::qWait(1300);
-    QCOMPARE(words(window), blackLine);
+    QTest::qWait(1300); // longer than settings wait to be applied
+    for (const QString &line : {wake, wake, black, black}) {
+        QCOMPARE(ServiceClient::readLine(), line);
+    }
 }
 
 void TestResumedWindow::windowsLifeIsTheNoticesLife()
