@@ -1,16 +1,10 @@
 #pragma once
 
-#include <QChar>
+#include "system/executableform.h"
+
 #include <QString>
 
 #include <optional>
-
-/// How the system writes the path of this program in its autostart entry.
-struct ExecutableForm
-{
-    QString fileName; ///< "Lumikey.exe" on Windows; compared with regard to case
-    QChar separator;  ///< between folders: a backslash on Windows
-};
 
 /// What start-up does before there is an application object.
 struct StartUpPlan

@@ -8,8 +8,6 @@
 #include <QCoreApplication>
 #include <QEventLoop>
 
-#include <cstring>
-
 namespace {
 
 int sign(qint64 number)
@@ -23,10 +21,10 @@ void checkPair(const QString &a, const QString &b)
     require(sign(compareVersions(b, a)) == -sign(comparison), "a comparison turns around");
     require(compareVersions(a, a) == 0, "a version equals itself");
     require(compareVersions(a, a + QStringLiteral(".0")) == -1, "one part more is newer");
-    const UpdateVerdict &verdict = updateVerdict(comparison);
-    require(verdict.updateWaits == (comparison < 0), "an update waits where it is newer");
-    require(verdict.updateWaits == (verdict.notice == nullptr), "no notice where one is asked");
-    require(std::strlen(verdict.description) > 0, "every verdict is described");
+    require((versionVerdict(comparison) == VersionVerdict::UpdateWaits) == (comparison < 0),
+            "an update waits where it is newer");
+    require((versionVerdict(comparison) == VersionVerdict::Latest) == (comparison == 0),
+            "only equal ones are the latest");
 }
 
 void checkOrder(const QString &a, const QString &b, const QString &c)

@@ -24,7 +24,7 @@ DimStep darker(const DimInputs &inputs)
 {
     DimStep step = unchanged(inputs);
     if (inputs.brightness == 0) {
-        step.labelSuffix = DimSuffix::dimmed;
+        step.told = DimPhase::Dimmed;
         return step;
     }
     if (inputs.brightness <= pointsPerPoll) {
@@ -32,12 +32,12 @@ DimStep darker(const DimInputs &inputs)
     }
     step.active = true;
     step.brightness -= pointsPerPoll;
-    step.labelSuffix = DimSuffix::dimming;
+    step.told = DimPhase::Dimming;
     if (step.brightness <= pointsPerPoll) {
         step.brightness = 0;
         step.sliderEnabled = false;
         step.leftOff = true;
-        step.labelSuffix = DimSuffix::dimmed;
+        step.told = DimPhase::Dimmed;
     }
     return step;
 }
@@ -49,7 +49,7 @@ DimStep awake(const DimInputs &inputs)
     step.active = false;
     step.wake = true;
     step.sliderEnabled = true;
-    step.labelSuffix = DimSuffix::watching;
+    step.told = DimPhase::Watching;
     return step;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "system/platform.h"
+#include "system/keypresses.h"
 
 #include <QtGlobal>
 
@@ -18,6 +18,13 @@ struct DimInputs
     bool effectChosen = false;
 };
 
+/// What the user is told of auto-dim.
+enum class DimPhase {
+    Watching, ///< for the time to dim to come
+    Dimming,
+    Dimmed, ///< as far as it goes
+};
+
 /// What one poll does.
 struct DimStep
 {
@@ -26,14 +33,8 @@ struct DimStep
     bool wake = false;                 ///< the agent is to re-initialise the keyboard
     bool leftOff = false;              ///< the left word becomes the one for lighting off
     std::optional<bool> sliderEnabled; ///< nothing: stays as it is
-    const char *labelSuffix = nullptr; ///< after the value in the brightness label; null: stays
+    std::optional<DimPhase> told;      ///< beside the brightness; nothing: stays as it is
 };
-
-namespace DimSuffix {
-constexpr const char *watching = "% (Auto dim mode)";
-constexpr const char *dimming = "% (dimming down)";
-constexpr const char *dimmed = "% (dimmed)";
-} // namespace DimSuffix
 
 /// Whether any of the presses counts as input.
 /// @param mouseWakes whether codes 1 to 6, the mouse buttons and cancel, count too

@@ -1,18 +1,14 @@
 #pragma once
 
-#include "app/startup.h"
+#include "system/executableform.h"
+#include "system/keypresses.h"
 
 #include <QByteArray>
 #include <QString>
 
-#include <bitset>
 #include <functional>
 #include <memory>
 #include <optional>
-
-/// One flag for each virtual-key code 0..253. Codes 1 to 6 are the mouse buttons and cancel, the
-/// others keys; which key has which code is the system's own affair.
-using KeyPresses = std::bitset<254>;
 
 /// The only door to the operating system. One implementation a system, chosen by the build; tests
 /// hand in their own. All calls are made on the GUI thread; they return at once but for those that

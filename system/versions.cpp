@@ -19,8 +19,10 @@ qint64 compareVersions(const QString &installed, const QString &latest)
     return ours.size() - theirs.size();
 }
 
-const UpdateVerdict &updateVerdict(qint64 comparison)
+VersionVerdict versionVerdict(qint64 comparison)
 {
-    const std::size_t row = comparison < 0 ? 0 : comparison == 0 ? 1 : 2;
-    return updateVerdicts.at(row);
+    if (comparison == 0) {
+        return VersionVerdict::Latest;
+    }
+    return comparison < 0 ? VersionVerdict::UpdateWaits : VersionVerdict::Newer;
 }

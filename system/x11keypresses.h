@@ -1,6 +1,8 @@
 #pragma once
 
-#include "system/platform.h"
+#include "system/keypresses.h"
+
+#include <QtGlobal>
 
 #include <memory>
 

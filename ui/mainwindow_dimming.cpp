@@ -5,6 +5,7 @@
 #include "lighting/autodim.h"
 #include "lighting/idletimes.h"
 #include "system/platform.h"
+#include "ui/messages.h"
 
 namespace {
 
@@ -37,7 +38,7 @@ void MainWindow::on_CheckBox_AutoDim_clicked()
     settings.writeSetting(SettingKeys::autoDim, checked);
     if (checked) {
         starttimerdelay();
-        showBrightness(DimSuffix::watching);
+        showBrightness(Messages::brightnessSuffix(DimPhase::Watching));
         return;
     }
     autoDimActive = false;
@@ -74,8 +75,8 @@ void MainWindow::timerDone()
     if (step.sliderEnabled) {
         slider.setEnabled(*step.sliderEnabled);
     }
-    if (step.labelSuffix != nullptr) {
-        showBrightness(step.labelSuffix);
+    if (step.told) {
+        showBrightness(Messages::brightnessSuffix(*step.told));
     }
     if (step.leftOff) {
         lighting.leftWord = wordText(DeviceWords::lightingOff);

@@ -4,7 +4,6 @@
 
 #include "system/platform.h"
 #include "system/versionrequest.h"
-#include "system/versions.h"
 #include "ui/messages.h"
 
 #include <QCoreApplication>
@@ -54,14 +53,16 @@ void MainWindow::showVersions(const QString &installed, const QString &latest)
 {
     ui->Label_SoftwareVersion->setText(QStringLiteral("Installed: ") + installed);
     ui->Label_SoftwareServerVersion->setText(QStringLiteral("Latest: ") + latest);
-    const UpdateVerdict &verdict = updateVerdict(compareVersions(installed, latest));
-    ui->Label_SoftwareVersion_desc->setText(QString::fromLatin1(verdict.description));
-    ui->Button_Update->setEnabled(verdict.updateWaits);
-    settings.writeWorkQueue(WorkKeys::updatePending, verdict.updateWaits);
-    if (verdict.updateWaits) {
+    const VersionVerdict verdict = versionVerdict(compareVersions(installed, latest));
+    const Messages::VersionTexts texts = Messages::versionTexts(verdict);
+    const bool updateWaits = verdict == VersionVerdict::UpdateWaits;
+    ui->Label_SoftwareVersion_desc->setText(QString::fromLatin1(texts.description));
+    ui->Button_Update->setEnabled(updateWaits);
+    settings.writeWorkQueue(WorkKeys::updatePending, updateWaits);
+    if (updateWaits) {
         offerUpdate();
     } else if (manualCheck) {
-        tell(this, {Messages::updateTitle, verdict.notice});
+        tell(this, {Messages::updateTitle, texts.notice});
         manualCheck = false;
     }
 }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "lighting/autodim.h"
+#include "system/versions.h"
+
 class QWidget;
 
 /// A modal box over the window: frameless, in the program's own look.
@@ -29,6 +32,42 @@ inline constexpr Message uninstallNeedsRights{
                "with admin access, after that you should click the uninstall button again."};
 inline constexpr Message perKeyNeedsRights{
     "Per Key Install", "To install the Per-Key RGB App we need Admin access, do you allow it?"};
+
+/// What the user is told of a comparison of versions.
+struct VersionTexts
+{
+    const char *description; ///< stays on the About page
+    const char *notice; ///< answers a check that the user asked for; null where a question does
+};
+
+constexpr VersionTexts versionTexts(VersionVerdict verdict)
+{
+    switch (verdict) {
+    case VersionVerdict::UpdateWaits:
+        return {"There is an update! Click the update button.", nullptr};
+    case VersionVerdict::Latest:
+        return {"You are running the latest version, there is no update.",
+                "You are running the latest version, there is no update.\n"};
+    case VersionVerdict::Newer:
+        break;
+    }
+    return {"Your version is newer then the official latest! Are you a beta tester?",
+            "Your version is newer then the official latest! You are probably a beta tester.\n"};
+}
+
+/// What stands behind the value of the brightness label while auto-dim is on.
+constexpr const char *brightnessSuffix(DimPhase phase)
+{
+    switch (phase) {
+    case DimPhase::Watching:
+        return "% (Auto dim mode)";
+    case DimPhase::Dimming:
+        return "% (dimming down)";
+    case DimPhase::Dimmed:
+        break;
+    }
+    return "% (dimmed)";
+}
 } // namespace Messages
 
 /// Asks with Yes and No; true only for Yes. Blocks until there is an answer.

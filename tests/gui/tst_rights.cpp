@@ -335,10 +335,8 @@ void TestRights::textsAreWhole()
           Messages::uninstallNeedsRights, Messages::perKeyNeedsRights}) {
         ask(&window, message);
     }
-    for (const UpdateVerdict &verdict : updateVerdicts) {
-        if (verdict.notice != nullptr) {
-            tell(&window, {Messages::updateTitle, verdict.notice});
-        }
+    for (const VersionVerdict verdict : {VersionVerdict::Latest, VersionVerdict::Newer}) {
+        tell(&window, {Messages::updateTitle, Messages::versionTexts(verdict).notice});
     }
     QApplication::setFont(before);
     QCOMPARE(watcher.seen.size(), 7);

@@ -12,7 +12,7 @@ constexpr qint32 fiveSeconds = idleTimesMs.front();
 constexpr quint32 noon = 1'000'000'000;
 
 /// What a poll changes, as one text: "slider/flag", then wake, the left word, the slider's being
-/// enabled and the label.
+/// enabled and what the user is told.
 QString told(const DimStep &step)
 {
     QString text = QStringLiteral("%1/%2").arg(step.brightness).arg(step.active);
@@ -25,8 +25,9 @@ QString told(const DimStep &step)
     if (step.sliderEnabled) {
         text += *step.sliderEnabled ? QStringLiteral(" enable") : QStringLiteral(" disable");
     }
-    if (step.labelSuffix != nullptr) {
-        text += QStringLiteral(" ") + QLatin1String(step.labelSuffix);
+    if (step.told) {
+        const std::initializer_list<const char *> names{" watching", " dimming", " dimmed"};
+        text += QLatin1String(names.begin()[static_cast<int>(*step.told)]);
     }
     return text;
 }
@@ -124,22 +125,22 @@ void TestAutoDim::onePoll_data()
                                      .arg(active)))
             << idle << brightness << user << active << QString::fromLatin1(expected);
     };
-    row(true, 100, 100, false, "98/1 % (dimming down)");
-    row(true, 98, 100, true, "96/1 % (dimming down)");
-    row(true, 5, 100, true, "3/1 % (dimming down)");
-    row(true, 4, 100, true, "0/1 left-off disable % (dimmed)");
-    row(true, 4, 4, false, "0/1 left-off disable % (dimmed)");
-    row(true, 3, 3, false, "0/1 left-off disable % (dimmed)");
+    row(true, 100, 100, false, "98/1 dimming");
+    row(true, 98, 100, true, "96/1 dimming");
+    row(true, 5, 100, true, "3/1 dimming");
+    row(true, 4, 100, true, "0/1 left-off disable dimmed");
+    row(true, 4, 4, false, "0/1 left-off disable dimmed");
+    row(true, 3, 3, false, "0/1 left-off disable dimmed");
     row(true, 2, 2, false, "2/0");
     row(true, 1, 1, false, "1/0");
     row(true, 2, 100, true, "2/1"); // the user's hand was there
-    row(true, 0, 100, true, "0/1 % (dimmed)");
-    row(true, 0, 0, false, "0/0 % (dimmed)");
+    row(true, 0, 100, true, "0/1 dimmed");
+    row(true, 0, 0, false, "0/0 dimmed");
     row(false, 100, 100, false, "100/0");
-    row(false, 99, 100, true, "100/0 wake enable % (Auto dim mode)");
-    row(false, 0, 100, true, "100/0 wake enable % (Auto dim mode)");
-    row(false, 0, 1, true, "1/0 wake enable % (Auto dim mode)");
-    row(false, 40, 70, false, "70/0 wake enable % (Auto dim mode)"); // raised by another program
+    row(false, 99, 100, true, "100/0 wake enable watching");
+    row(false, 0, 100, true, "100/0 wake enable watching");
+    row(false, 0, 1, true, "1/0 wake enable watching");
+    row(false, 40, 70, false, "70/0 wake enable watching"); // raised by another program
     row(false, 70, 40, false, "70/0");
     row(false, 70, 70, true, "70/1"); // nothing to bring back, so the flag stays
     row(false, 0, 0, false, "0/0");
@@ -223,17 +224,16 @@ void TestAutoDim::ramp()
 
     // By two points until two or fewer are left, which go at once.
     for (int shown = brightness - 2; shown > 2; shown -= 2) {
-        QCOMPARE(told(night.poll()), QStringLiteral("%1/1 % (dimming down)").arg(shown));
+        QCOMPARE(told(night.poll()), QStringLiteral("%1/1 dimming").arg(shown));
         QVERIFY(night.enabled);
     }
-    QCOMPARE(told(night.poll()), QStringLiteral("0/1 left-off disable % (dimmed)"));
+    QCOMPARE(told(night.poll()), QStringLiteral("0/1 left-off disable dimmed"));
     QCOMPARE(night.steps, qMax(1, (brightness - 1) / 2));
     QCOMPARE(night.darkAt - night.firstStepAt, (night.steps - 1) * pollMs);
     for (int poll = 0; poll < 10; ++poll) {
-        QCOMPARE(told(night.poll()), QStringLiteral("0/1 % (dimmed)"));
+        QCOMPARE(told(night.poll()), QStringLiteral("0/1 dimmed"));
     }
-    QCOMPARE(told(night.poll(true)),
-             QStringLiteral("%1/0 wake enable % (Auto dim mode)").arg(brightness));
+    QCOMPARE(told(night.poll(true)), QStringLiteral("%1/0 wake enable watching").arg(brightness));
     QCOMPARE(told(night.poll()), QStringLiteral("%1/0").arg(brightness));
 }
 
@@ -242,10 +242,10 @@ void TestAutoDim::rampStopsAtInput()
     Night night(99, fiveSeconds);
     night.pollFor(fiveSeconds + 10 * pollMs);
     QCOMPARE(night.state.brightness, 99 - 2 * 11);
-    QCOMPARE(told(night.poll(true)), QStringLiteral("99/0 wake enable % (Auto dim mode)"));
+    QCOMPARE(told(night.poll(true)), QStringLiteral("99/0 wake enable watching"));
     night.pollFor(fiveSeconds - pollMs);
     QCOMPARE(night.state.brightness, 99);
-    QCOMPARE(told(night.poll()), QStringLiteral("97/1 % (dimming down)"));
+    QCOMPARE(told(night.poll()), QStringLiteral("97/1 dimming"));
 }
 
 void TestAutoDim::idleTimes_data()
@@ -321,7 +321,7 @@ void TestAutoDim::darkenedByTheUser()
 {
     Night night(0, fiveSeconds);
     night.pollFor(fiveSeconds - pollMs);
-    QCOMPARE(told(night.poll()), QStringLiteral("0/0 % (dimmed)")); // only told so
+    QCOMPARE(told(night.poll()), QStringLiteral("0/0 dimmed")); // only told so
     QCOMPARE(told(night.poll(true)), QStringLiteral("0/0"));
     QVERIFY(night.enabled);
 }

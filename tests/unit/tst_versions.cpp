@@ -2,6 +2,8 @@
 
 #include <QTest>
 
+Q_DECLARE_METATYPE(VersionVerdict)
+
 /// What the comparison of two version texts says.
 class TestVersions : public QObject
 {
@@ -69,28 +71,18 @@ void TestVersions::comparison()
 void TestVersions::verdicts_data()
 {
     QTest::addColumn<qint64>("comparison");
-    QTest::addColumn<bool>("updateWaits");
-    QTest::addColumn<QByteArray>("description");
-    QTest::addColumn<QByteArray>("notice");
-    const QByteArray update = "There is an update! Click the update button.";
-    const QByteArray latest = "You are running the latest version, there is no update.";
-    const QByteArray newer = "Your version is newer then the official latest! ";
-    QTest::newRow("far below") << qint64{-4294967295} << true << update << QByteArray();
-    QTest::newRow("below") << qint64{-1} << true << update << QByteArray();
-    QTest::newRow("equal") << qint64{0} << false << latest << latest + '\n';
-    QTest::newRow("above") << qint64{1} << false << newer + "Are you a beta tester?"
-                           << newer + "You are probably a beta tester.\n";
-    QTest::newRow("far above") << qint64{4294967295} << false << newer + "Are you a beta tester?"
-                               << newer + "You are probably a beta tester.\n";
+    QTest::addColumn<VersionVerdict>("verdict");
+    QTest::newRow("far below") << qint64{-4294967295} << VersionVerdict::UpdateWaits;
+    QTest::newRow("below") << qint64{-1} << VersionVerdict::UpdateWaits;
+    QTest::newRow("equal") << qint64{0} << VersionVerdict::Latest;
+    QTest::newRow("above") << qint64{1} << VersionVerdict::Newer;
+    QTest::newRow("far above") << qint64{4294967295} << VersionVerdict::Newer;
 }
 
 void TestVersions::verdicts()
 {
     QFETCH(qint64, comparison);
-    const UpdateVerdict &verdict = updateVerdict(comparison);
-    QTEST(verdict.updateWaits, "updateWaits");
-    QTEST(QByteArray(verdict.description), "description");
-    QTEST(QByteArray(verdict.notice), "notice");
+    QTEST(versionVerdict(comparison), "verdict");
 }
 
 QTEST_GUILESS_MAIN(TestVersions)
