@@ -33,6 +33,22 @@ bool isSystemFolder(const QString &directory)
                        [&](const char *mark) { return directory.contains(QLatin1String(mark)); });
 }
 
+bool namesProgram(const QString &path, const ExecutableForm &executable)
+{
+    return executable.foldersMayShareIt ? path.endsWith(executable.separator + executable.fileName)
+                                        : path.contains(executable.fileName);
+}
+
+QString withoutProgram(QString path, const ExecutableForm &executable)
+{
+    if (executable.foldersMayShareIt) {
+        path.chop(executable.fileName.size());
+    } else {
+        path.remove(executable.fileName); // each occurrence, on purpose
+    }
+    return path;
+}
+
 } // namespace
 
 StartUpPlan planStartUp(const QString &autostartValue, const QString &currentDirectory,
@@ -40,11 +56,11 @@ StartUpPlan planStartUp(const QString &autostartValue, const QString &currentDir
 {
     StartUpPlan plan;
     QString value = autostartValue;
-    if (isSystemFolder(currentDirectory) && value.contains(executable.fileName)) {
-        value.remove(executable.fileName);
+    if (isSystemFolder(currentDirectory) && namesProgram(value, executable)) {
+        value = withoutProgram(value, executable);
         plan.workingDirectory = value;
     }
-    if (value.contains(executable.fileName)) {
+    if (namesProgram(value, executable)) {
         QString directory = currentDirectory;
         directory.replace(QLatin1Char('/'), executable.separator);
         // On purpose a folder is compared with the whole path of the executable: they never match,

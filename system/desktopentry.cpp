@@ -1,5 +1,6 @@
 #include "system/desktopentry.h"
 
+#include <QFileInfo>
 #include <QList>
 
 namespace {
@@ -20,6 +21,12 @@ QString quotedArgument(const QString &path)
         }
     }
     return quoted + QLatin1Char('"');
+}
+
+/// Every value is a string in which a backslash is doubled.
+QString escaped(QString value)
+{
+    return value.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
 }
 
 /// The first argument of an Exec line whose general string escapes are already undone.
@@ -48,10 +55,9 @@ QString firstArgument(const QString &line)
 
 QByteArray DesktopEntry::write(const QString &name, const QString &path)
 {
-    // Every value is a string in which a backslash is doubled once more.
-    const QString exec = quotedArgument(path).replace(QLatin1String("\\"), QLatin1String("\\\\"));
-    return QStringLiteral("[Desktop Entry]\nType=Application\nName=%1\nExec=%2\nTerminal=false\n")
-        .arg(name, exec)
+    return QStringLiteral("[Desktop Entry]\nType=Application\nName=%1\nExec=%2\nPath=%3\n"
+                          "Terminal=false\n")
+        .arg(name, escaped(quotedArgument(path)), escaped(QFileInfo(path).path()))
         .toUtf8();
 }
 

@@ -41,7 +41,7 @@ class LinuxPlatform final : public Platform
 public:
     ExecutableForm executableForm() const override
     {
-        return {QStringLiteral("Lumikey"), QLatin1Char('/')};
+        return {QStringLiteral("Lumikey"), QLatin1Char('/'), true};
     }
 
     QString autostartValue(const QString &whenMissing) const override

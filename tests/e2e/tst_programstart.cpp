@@ -17,6 +17,7 @@ private slots:
     void entryFollowsTheStart();
     void entryStays_data();
     void entryStays();
+    void entryOutlivesLogIns();
     void noEntryStaysAway();
     void startFromASystemFolderFindsTheBranding();
     void argumentsAreNotExamined();
@@ -94,6 +95,18 @@ void TestProgramStart::entryStays()
     QVERIFY(program->startAndServe(systemFolder ? TestSystem::systemFolder(program->home)
                                                 : ProgramProcess::programFolder()));
     QCOMPARE(TestSystem::autostartEntry().value_or(QStringLiteral("(none)")), entry);
+}
+
+void TestProgramStart::entryOutlivesLogIns()
+{
+    const QString own = QDir::toNativeSeparators(ProgramProcess::executable());
+    TestSystem::setAutostartEntry(own);
+    QVERIFY(program->startAndServe()); // which writes the entry
+    for (int logIn = 1; logIn <= 2; ++logIn) {
+        program->kill();
+        QVERIFY(program->startAndServe(TestSystem::logInFolder(program->home)));
+        QCOMPARE(TestSystem::autostartEntry().value_or(QStringLiteral("(none)")), own);
+    }
 }
 
 void TestProgramStart::noEntryStaysAway()

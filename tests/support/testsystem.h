@@ -69,4 +69,7 @@ void makeElevationHelper(const QString &folder, Consent consent);
 /// A folder that autostart launches begin in; made below @p home where the system has none.
 QString systemFolder(const QTemporaryDir &home);
 
+/// The folder that the autostart entry's own launch at the next log-in begins in.
+QString logInFolder(const QTemporaryDir &home);
+
 } // namespace TestSystem

@@ -189,3 +189,14 @@ QString TestSystem::systemFolder(const QTemporaryDir &home)
     QDir().mkpath(folder);
     return folder;
 }
+
+QString TestSystem::logInFolder(const QTemporaryDir &home)
+{
+    const QByteArray key = "Path=";
+    for (const QByteArray &line : readFile(entryFile()).split('\n')) {
+        if (line.startsWith(key)) {
+            return QString::fromUtf8(line.mid(key.size()));
+        }
+    }
+    return home.path();
+}

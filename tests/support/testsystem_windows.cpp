@@ -154,3 +154,8 @@ QString TestSystem::systemFolder(const QTemporaryDir & /*home*/)
 {
     return QStringLiteral("C:/windows/system32");
 }
+
+QString TestSystem::logInFolder(const QTemporaryDir &home)
+{
+    return systemFolder(home);
+}

@@ -9,6 +9,8 @@ class TestDesktopEntry : public QObject
 private slots:
     void pathComesBack_data();
     void pathComesBack();
+    void startsInTheProgramsFolder_data();
+    void startsInTheProgramsFolder();
     void execLine_data();
     void execLine();
 };
@@ -29,6 +31,31 @@ void TestDesktopEntry::pathComesBack()
     const QByteArray entry = DesktopEntry::write(QStringLiteral("Lumikey"), path);
     QVERIFY(entry.startsWith("[Desktop Entry]\nType=Application\nName=Lumikey\nExec=\""));
     QCOMPARE(DesktopEntry::execPath(entry), path);
+}
+
+void TestDesktopEntry::startsInTheProgramsFolder_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QByteArray>("line");
+    const auto row = [](const char *name, const char *path, const char *line) {
+        QTest::newRow(name) << QString::fromUtf8(path) << QByteArray(line);
+    };
+    row("plain", "/opt/lumikey/Lumikey", "Path=/opt/lumikey");
+    row("folder of the same name", "/opt/Lumikey/Lumikey", "Path=/opt/Lumikey");
+    row("blank", "/opt/my lights/Lumikey", "Path=/opt/my lights");
+    row("backslash", "/opt/a\\b/Lumikey", "Path=/opt/a\\\\b");
+    row("percent and quotes", "/opt/100%/\"$x\"/Lumikey", "Path=/opt/100%/\"$x\"");
+    row("non-ASCII", "/opt/Lämpchen/Lumikey", "Path=/opt/Lämpchen");
+    row("root", "/Lumikey", "Path=/");
+}
+
+/// A log-in begins in the home folder, where none of the program's own files are.
+void TestDesktopEntry::startsInTheProgramsFolder()
+{
+    QFETCH(QString, path);
+    QFETCH(QByteArray, line);
+    const QByteArray entry = DesktopEntry::write(QStringLiteral("Lumikey"), path);
+    QVERIFY2(entry.split('\n').contains(line), entry.constData());
 }
 
 void TestDesktopEntry::execLine_data()

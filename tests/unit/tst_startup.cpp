@@ -9,6 +9,7 @@ class TestStartup : public QObject
 private slots:
     void plan_data();
     void plan();
+    void planOnOtherSystems_data();
     void planOnOtherSystems();
     void fontPixelSizes_data();
     void fontPixelSizes();
@@ -63,13 +64,45 @@ void TestStartup::plan()
     QTEST(plan.autostartValue.value_or(QStringLiteral("(unchanged)")), "newRunValue");
 }
 
+void TestStartup::planOnOtherSystems_data()
+{
+    const QString unchanged = QStringLiteral("(unchanged)");
+    QTest::addColumn<QString>("entry");
+    QTest::addColumn<QString>("directory");
+    QTest::addColumn<QString>("newDirectory");
+    QTest::addColumn<QString>("newEntry");
+    QTest::newRow("elsewhere") << QStringLiteral("/opt/lumikey/Lumikey")
+                               << QStringLiteral("/srv/tools") << unchanged
+                               << QStringLiteral("/srv/tools/Lumikey");
+    QTest::newRow("system folder")
+        << QStringLiteral("/opt/lumikey/Lumikey") << QStringLiteral("/mnt/Windows")
+        << QStringLiteral("/opt/lumikey/") << unchanged;
+    QTest::newRow("folder of the same name, elsewhere")
+        << QStringLiteral("/opt/Lumikey/Lumikey") << QStringLiteral("/opt/Lumikey") << unchanged
+        << QStringLiteral("/opt/Lumikey/Lumikey");
+    QTest::newRow("folder of the same name, system folder")
+        << QStringLiteral("/opt/Lumikey/Lumikey") << QStringLiteral("/mnt/Windows")
+        << QStringLiteral("/opt/Lumikey/") << unchanged;
+    QTest::newRow("folder whose name begins alike, system folder")
+        << QStringLiteral("/opt/Lumikey-1.0.4/Lumikey") << QStringLiteral("/mnt/Windows")
+        << QStringLiteral("/opt/Lumikey-1.0.4/") << unchanged;
+    QTest::newRow("name that ends alike")
+        << QStringLiteral("/opt/NotLumikey") << QStringLiteral("/srv/tools") << unchanged
+        << unchanged;
+    QTest::newRow("another program in such a folder")
+        << QStringLiteral("/opt/Lumikey/other") << QStringLiteral("/srv/tools") << unchanged
+        << unchanged;
+}
+
+/// Where programs have no suffix a folder may well share the name: only the end of a path counts.
 void TestStartup::planOnOtherSystems()
 {
+    QFETCH(QString, entry);
+    QFETCH(QString, directory);
     const StartUpPlan plan =
-        planStartUp(QStringLiteral("/opt/lumikey/Lumikey"), QStringLiteral("/srv/tools"),
-                    {QStringLiteral("Lumikey"), QLatin1Char('/')});
-    QVERIFY(!plan.workingDirectory);
-    QCOMPARE(plan.autostartValue.value_or(QString()), QStringLiteral("/srv/tools/Lumikey"));
+        planStartUp(entry, directory, {QStringLiteral("Lumikey"), QLatin1Char('/'), true});
+    QTEST(plan.workingDirectory.value_or(QStringLiteral("(unchanged)")), "newDirectory");
+    QTEST(plan.autostartValue.value_or(QStringLiteral("(unchanged)")), "newEntry");
 }
 
 void TestStartup::fontPixelSizes_data()
