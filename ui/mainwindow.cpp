@@ -3,6 +3,7 @@
 #include "ui_mainwindow.h"
 
 #include "colorpicker/colorprocessor.h"
+#include "ui/grooveclick.h"
 #include "ui/toggleaccessible.h"
 
 #include <QCoreApplication>
@@ -32,6 +33,7 @@ MainWindow::MainWindow(AppSettings appSettings, Platform &system, PrimaryRole &r
 {
     ToggleAccessible::install();
     ui->setupUi(this);
+    new GrooveClick(ui->horizontalSlider);
     // The form's order of tabs is a circle that leaves the title buttons right behind the window
     // itself, where the first Tab would meet them. By way of another place they come to its end.
     for (QWidget *const button : {ui->closeButton, ui->minimizeButton}) {
