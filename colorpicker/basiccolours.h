@@ -36,6 +36,16 @@ inline int basicColourIndex(const QString &rgbText)
     return 0;
 }
 
+/// Whether either text of a list index is @p rgbText; the first item goes with any.
+inline bool isBasicColour(int index, const QString &rgbText)
+{
+    if (index < 1 || index > static_cast<int>(basicColours.size())) {
+        return index == 0;
+    }
+    const BasicColour &colour = basicColours.at(static_cast<std::size_t>(index) - 1);
+    return rgbText == QLatin1String(colour.chosen) || rgbText == QLatin1String(colour.matched);
+}
+
 /// The RGB text of a list index; empty for the first item and outside the list.
 inline QString basicColourText(int index)
 {

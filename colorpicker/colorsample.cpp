@@ -1,5 +1,6 @@
 #include "colorpicker/colorsample.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -47,6 +48,23 @@ void ColorSample::leaveEvent(QEvent *)
     frameColor = restingFrame;
     setCursor(Qt::ArrowCursor);
     update();
+}
+
+void ColorSample::mousePressEvent(QMouseEvent *event)
+{
+    pressPosition = event->globalPos();
+    event->ignore(); // the window may be dragged by it
+}
+
+void ColorSample::mouseMoveEvent(QMouseEvent *event)
+{
+    // On the screen, since a window that is dragged stays under the pointer.
+    const QPoint way = event->globalPos() - pressPosition;
+    if (event->buttons() != Qt::NoButton
+        && way.manhattanLength() >= QApplication::startDragDistance()) {
+        windowDragged = true;
+    }
+    event->ignore();
 }
 
 void ColorSample::mouseReleaseEvent(QMouseEvent *event)

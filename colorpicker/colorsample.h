@@ -2,8 +2,8 @@
 
 #include "colorpicker/colorwidget.h"
 
-/// Swatch of the chosen colour. A click is announced, so that the window can copy the colour; the
-/// end of a window drag that happens to be over the swatch is not a click.
+/// Swatch of the chosen colour. A click is announced, so that the window can copy the colour; a
+/// press that has moved further, as one that drags the window, is none.
 class ColorSample : public ColorWidget
 {
     Q_OBJECT
@@ -31,10 +31,13 @@ public slots:
 protected:
     void enterEvent(QEvent *event) override;
     void leaveEvent(QEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
     bool windowDragged = false;
+    QPoint pressPosition; ///< on the screen
 };

@@ -31,7 +31,9 @@ HexTyping::HexTyping(QLineEdit *watchedField)
     , field(watchedField)
 {
     field->installEventFilter(this);
-    connect(field, &QLineEdit::textEdited, this, [this](const QString &text) { typed = text; });
+    connect(field, &QLineEdit::textEdited, this, [this](const QString &text) {
+        typed = ColorTyping::withoutHash({text, field->cursorPosition()});
+    });
 }
 
 bool HexTyping::eventFilter(QObject *watched, QEvent *event)
@@ -39,12 +41,13 @@ bool HexTyping::eventFilter(QObject *watched, QEvent *event)
     switch (event->type()) {
     case QEvent::KeyPress:
         if (goesOn(*static_cast<QKeyEvent *>(event))) {
-            field->setText(typed);
+            field->setText(typed.text);
+            field->setCursorPosition(typed.cursor);
         }
         break;
     case QEvent::FocusIn:
     case QEvent::MouseButtonPress:
-        typed.clear();
+        typed = {};
         break;
     default:
         break;
@@ -54,8 +57,18 @@ bool HexTyping::eventFilter(QObject *watched, QEvent *event)
 
 bool HexTyping::goesOn(const QKeyEvent &event) const
 {
-    const bool edits = !event.modifiers().testFlag(Qt::AltModifier)
-                       && (event.key() == Qt::Key_Backspace || isHexDigit(event.text()));
-    return edits && typed.size() == shortLength && field->text() == writtenOut(typed)
-           && !field->hasSelectedText() && field->cursorPosition() == field->text().size();
+    const QString written = field->text();
+    if (typed.text.size() != shortLength || written != writtenOut(typed.text)
+        || field->cursorPosition() != ColorTyping::cursorAfterRewriting(typed, written.size())
+        || field->hasSelectedText() || event.modifiers().testFlag(Qt::AltModifier)) {
+        return false;
+    }
+    switch (event.key()) {
+    case Qt::Key_Backspace:
+        return typed.cursor > 0;
+    case Qt::Key_Delete:
+        return typed.cursor < shortLength;
+    default:
+        return isHexDigit(event.text());
+    }
 }

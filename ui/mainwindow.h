@@ -7,6 +7,7 @@
 #include "lighting/lightingstate.h"
 #include "lighting/myeventfilter.h"
 #include "system/types.h"
+#include "ui/lastinput.h"
 
 #include <QAbstractSocket>
 #include <QMainWindow>
@@ -22,6 +23,7 @@
 
 class Platform;
 class PrimaryRole;
+class QLineEdit;
 class QMenu;
 class QTcpServer;
 struct DpiBand;
@@ -184,7 +186,9 @@ private:
     void openPicker(int target);
     void closePicker();
     void leaveTextField(bool forward);
-    void keepExact(const QColor &colour);
+    void showNoColour();
+    /// Hands a field's text to one of the processor's two readers of texts.
+    void takeText(QLineEdit &field, QColor (ColorProcessor::*set)(const QString &));
     void enlargeForBand(const DpiBand &band);
     void updateIdleTime();
     QByteArray companionSegmentContents();
@@ -238,6 +242,10 @@ private:
     qint32 pickTarget = 0;
     std::unique_ptr<ColorProcessor> colourProcessor;
     std::unique_ptr<MainController> pickerController;
+    /// What worked the buttons that open and close the picker.
+    LastInput pickerInput;
+    /// The selectors announce colours that are steps to the one that was asked for.
+    bool colourOnItsWay = false;
 
     QSharedMemory companionMemory;
     /// The number that the companion published last; no brightness is the first one.

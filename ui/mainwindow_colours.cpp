@@ -3,8 +3,9 @@
 #include "ui_mainwindow.h"
 
 #include "colorpicker/basiccolours.h"
-#include "colorpicker/blanktyping.h"
+#include "colorpicker/colortyping.h"
 #include "colorpicker/hextyping.h"
+#include "colorpicker/pickergeometry.h"
 #include "colorpicker/services.h"
 
 #include <array>
@@ -36,6 +37,7 @@ void MainWindow::connectColourPicker()
     connect(ui->svSelector, SIGNAL(colorChanged(QColor)), ui->colorSample,
             SLOT(changeColor(QColor)));
     connect(ui->colorSample, SIGNAL(colorChanged(QColor)), this, SLOT(updateColorText(QColor)));
+    new HexTyping(ui->leHex); // to see a text before it is written out
     connect(ui->leRGB, SIGNAL(textEdited(QString)), this, SLOT(updateColorRGB(QString)));
     connect(ui->leHex, SIGNAL(textEdited(QString)), this, SLOT(updateColorHex(QString)));
     connect(ui->bHex, SIGNAL(clicked()), this, SLOT(copyHex()));
@@ -45,8 +47,17 @@ void MainWindow::connectColourPicker()
     connect(this, SIGNAL(mouseMovedOnWindow()), ui->colorSample, SLOT(mouseMovedOnWindow()));
     connect(this, SIGNAL(mouseReleasedOnWindow()), ui->colorSample, SLOT(mouseReleasedOnWindow()));
 
-    new BlankTyping(ui->leRGB);
-    new HexTyping(ui->leHex);
+    for (QWidget *const button : std::initializer_list<QWidget *>{
+             ui->colorpick1, ui->colorpick2, ui->colorpick3, ui->colorpick4, ui->colorpick5,
+             ui->pushButton, ui->pushButton_2}) {
+        pickerInput.watch(*button);
+    }
+    // A number that is missing keeps its place only for who is about to type it.
+    connect(ui->leRGB, &QLineEdit::editingFinished, this, [this] {
+        if (!ui->leRGB->hasFocus()) {
+            ui->leRGB->setText(Services::normalize(ui->leRGB->text()));
+        }
+    });
     // The fields keep Tab for themselves, so these are the keyboard's ways out of them.
     for (const ColorText *const field : {ui->leRGB, ui->leHex}) {
         connect(field, &ColorText::focusNextField, this, [this] { leaveTextField(true); });
@@ -84,22 +95,36 @@ void MainWindow::openPicker(int target)
     ui->tabWidget->hide();
     ui->colorpickframe->show();
     lastActivityMs = now();
+    if (colours.at(index)->isEmpty()) {
+        showNoColour();
+    }
     updateColorRGB(*colours.at(index));
     ui->leRGB->clearFocus();
     ui->label_8->setText(QString::fromLatin1(prompts.at(index)));
     ui->comboBox_BasicColors->setCurrentIndex(basicColourIndex(ui->leRGB->text()));
-    ui->svSelector->setFocus(Qt::OtherFocusReason); // for those who came by the keyboard
+    ui->svSelector->setFocus(pickerInput.wasMouse() ? Qt::MouseFocusReason : Qt::OtherFocusReason);
+}
+
+void MainWindow::showNoColour()
+{
+    // Black, with a hue to start from.
+    ui->hSelector->setHue(0);
+    ui->svSelector->setSaturationValue(PickerGeometry::svRange, 0);
+    ui->leHex->clear();
 }
 
 void MainWindow::closePicker()
 {
+    if (pickerInput.wasMouse() && focusWidget() != nullptr) {
+        focusWidget()->clearFocus(); // else it would go, and be marked, where nobody has put it
+    }
     ui->colorpickframe->hide();
     ui->tabWidget_2->show();
     ui->tabWidget->show();
     const std::array<QWidget *, 5> openers{ui->colorpick1, ui->colorpick2, ui->colorpick3,
                                            ui->colorpick4, ui->colorpick5};
     const auto index = static_cast<std::size_t>(pickTarget) - 1;
-    if (index < openers.size()) {
+    if (index < openers.size() && !pickerInput.wasMouse()) {
         openers.at(index)->setFocus(Qt::OtherFocusReason);
     }
 }
@@ -184,29 +209,37 @@ void MainWindow::on_comboBox_BasicColors_currentIndexChanged(int index)
 void MainWindow::updateColorRGB(const QString &RGB)
 {
     QLineEdit &field = *ui->leRGB;
-    const QString text = Services::normalize(RGB);
-    setTextKeepingCursor(field, text);
-    // A valid text is written anew, perhaps without a leading zero; what was behind the cursor is
-    // behind it then.
-    const int behind = text.size() - field.cursorPosition();
-    keepExact(colourProcessor->setRGB(text));
-    field.setCursorPosition(field.text().size() - behind);
-}
-
-void MainWindow::keepExact(const QColor &colour)
-{
-    // The selectors know whole degrees of hue only, so what they announce may be a step beside the
-    // colour that was asked for.
-    if (colour.isValid()) {
-        ui->colorSample->changeColor(colour);
+    // What is being typed is in the field already.
+    const auto gap =
+        field.text() == RGB ? ColorTyping::withGap({RGB, field.cursorPosition()}) : std::nullopt;
+    setTextKeepingCursor(field, Services::normalize(RGB));
+    takeText(field, &ColorProcessor::setRGB);
+    if (gap) {
+        field.setText(gap->text);
+        field.setCursorPosition(gap->cursor);
     }
 }
 
 void MainWindow::updateColorHex(const QString &Hex)
 {
-    const QString text = Services::normalize(Hex);
-    setTextKeepingCursor(*ui->leHex, text);
-    keepExact(colourProcessor->setHex(text));
+    QLineEdit &field = *ui->leHex;
+    const QString text = ColorTyping::withoutHash({Hex, field.cursorPosition()}).text;
+    setTextKeepingCursor(field, Services::normalize(text));
+    takeText(field, &ColorProcessor::setHex);
+}
+
+void MainWindow::takeText(QLineEdit &field, QColor (ColorProcessor::*set)(const QString &))
+{
+    const ColorTyping::Typed typed{field.text(), field.cursorPosition()};
+    colourOnItsWay = true;
+    const QColor colour = (*colourProcessor.*set)(typed.text);
+    colourOnItsWay = false;
+    // The selectors know whole degrees of hue only, so what they announce may be a step beside the
+    // colour that was asked for.
+    if (colour.isValid()) {
+        ui->colorSample->changeColor(colour);
+    }
+    field.setCursorPosition(ColorTyping::cursorAfterRewriting(typed, field.text().size()));
 }
 
 void MainWindow::updateColorText(const QColor &color)
@@ -215,6 +248,10 @@ void MainWindow::updateColorText(const QColor &color)
     const QString hex = ColorProcessor::hexFromColor(color);
     ui->leRGB->setText(rgb);
     ui->leHex->setText(hex);
+    // The list gives up a colour that is shown no more, so that it can be chosen again.
+    if (!colourOnItsWay && !isBasicColour(ui->comboBox_BasicColors->currentIndex(), rgb)) {
+        ui->comboBox_BasicColors->setCurrentIndex(0);
+    }
 }
 
 void MainWindow::selectField(QWidget *w)

@@ -17,6 +17,7 @@
 #include <QStatusBar>
 #include <QTest>
 #include <QWheelEvent>
+#include <QWindow>
 
 using namespace PickerFields;
 
@@ -43,6 +44,12 @@ private slots:
     void pasting();
     void pastingNothing();
     void selectField();
+    void zoneWithoutAColourIsBlack();
+    void basicColourChosenTwice_data();
+    void basicColourChosenTwice();
+    void chosenColourStaysListed();
+    void draggedSampleCopiesNothing_data();
+    void draggedSampleCopiesNothing();
 
 private:
     /// Whether every pixel of the square's picture, as the window shows it, is a grey.
@@ -334,6 +341,126 @@ void TestPicker::selectField()
     world.window->selectField(field);
     QVERIFY(field->hasFocus());
     QCOMPARE(field->selectedText(), QStringLiteral("255 0 0"));
+}
+
+void TestPicker::zoneWithoutAColourIsBlack()
+{
+    TestWindow world;
+    open(world, "colorpick1", "Zone1Color=255 0 0\n");
+    world.get<QAbstractButton>("colorpick2")->click();
+    QCOMPARE(text(world, "leRGB"), QString());
+    QCOMPARE(text(world, "leHex"), QString());
+    QCOMPARE(world.get<ColorSample>("colorSample")->color().rgb(), QColor(Qt::black).rgb());
+    QCOMPARE(world.get<SVSelector>("svSelector")->color().rgb(), QColor(Qt::black).rgb());
+    QCOMPARE(world.get<SVSelector>("svSelector")->value(), 0);
+    QCOMPARE(world.get<QComboBox>("comboBox_BasicColors")->currentText(), QStringLiteral("None"));
+
+    world.get<QAbstractButton>("pushButton")->click();
+    QCOMPARE(world.stored(SettingKeys::centreColour), QString());
+    world.get<QAbstractButton>("colorpick1")->click(); // and back to a zone that has one
+    QCOMPARE(text(world, "leRGB"), QStringLiteral("255 0 0"));
+    QCOMPARE(text(world, "leHex"), QStringLiteral("ff0000"));
+}
+
+void TestPicker::basicColourChosenTwice_data()
+{
+    QTest::addColumn<QString>("byHand");
+    for (const char *way : {"leRGB", "leHex", "svSelector", "hSelector", "bPasteHex"}) {
+        QTest::newRow(way) << QString::fromLatin1(way);
+    }
+}
+
+/// A list that still shows a colour's name would not be changed by choosing it again.
+void TestPicker::basicColourChosenTwice()
+{
+    QFETCH(QString, byHand);
+    TestWindow world;
+    open(world, "colorpick1");
+    world.window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(world.window.get()));
+    auto *const list = world.get<QComboBox>("comboBox_BasicColors");
+    const int yellow = list->findText(QStringLiteral("Yellow"));
+    list->setCurrentIndex(yellow);
+    QCOMPARE(text(world, "leRGB"), QStringLiteral("255 255 0"));
+    if (byHand == QLatin1String("leRGB")) {
+        type(world, "leRGB", QStringLiteral("0 0 255"));
+    } else if (byHand == QLatin1String("leHex")) {
+        type(world, "leHex", QStringLiteral("0000fe"));
+    } else if (byHand == QLatin1String("bPasteHex")) {
+        QGuiApplication::clipboard()->setText(QStringLiteral("#123456"));
+        world.window->pasteHex();
+    } else {
+        QTest::mouseClick(world.get<QWidget>(qPrintable(byHand)), Qt::LeftButton, {}, {20, 120});
+    }
+    QCOMPARE(list->currentText(), QStringLiteral("None"));
+    QVERIFY(text(world, "leRGB") != QLatin1String("255 255 0"));
+    list->setCurrentIndex(yellow);
+    QCOMPARE(text(world, "leRGB"), QStringLiteral("255 255 0"));
+    QCOMPARE(list->currentText(), QStringLiteral("Yellow"));
+}
+
+/// Whatever lay between the former colour and the chosen one, and by either text of an item.
+void TestPicker::chosenColourStaysListed()
+{
+    TestWindow world;
+    open(world, "colorpick1", "Zone1Color=10 200 90\n");
+    auto *const list = world.get<QComboBox>("comboBox_BasicColors");
+    for (int former = 1; former < list->count(); ++former) {
+        for (int index = 1; index < list->count(); ++index) {
+            list->setCurrentIndex(former);
+            list->setCurrentIndex(index);
+            QCOMPARE(list->currentIndex(), index);
+            QCOMPARE(text(world, "leRGB"), basicColourText(index));
+        }
+    }
+    list->setCurrentText(QStringLiteral("Purple"));
+    enter(world, "leRGB", "153 0 255");
+    QCOMPARE(list->currentText(), QStringLiteral("Purple"));
+    enter(world, "leRGB", "154 0 255");
+    QCOMPARE(list->currentText(), QStringLiteral("None"));
+}
+
+void TestPicker::draggedSampleCopiesNothing_data()
+{
+    QTest::addColumn<QPoint>("way");
+    QTest::addColumn<bool>("back");
+    QTest::addColumn<bool>("copies");
+    QTest::newRow("a click") << QPoint() << false << true;
+    QTest::newRow("an unsteady click") << QPoint(1, 1) << false << true;
+    QTest::newRow("a drag") << QPoint(30, 40) << false << false;
+    QTest::newRow("there and back") << QPoint(30, 40) << true << false;
+}
+
+/// The window is dragged by the sample as well, which then is not what was meant.
+void TestPicker::draggedSampleCopiesNothing()
+{
+    QFETCH(QPoint, way);
+    QFETCH(bool, back);
+    QFETCH(bool, copies);
+    TestWindow world;
+    open(world, "colorpick1", "Zone1Color=0 128 255\n");
+    MainWindow &window = *world.window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QGuiApplication::clipboard()->setText(QStringLiteral("kept"));
+    const QPoint before = window.pos();
+    auto *const sample = world.get<QWidget>("colorSample");
+    const QPoint from = sample->mapTo(&window, sample->rect().center());
+    QWindow *const native = window.windowHandle();
+    QTest::mousePress(native, Qt::LeftButton, Qt::NoModifier, from);
+    if (!way.isNull()) {
+        QTest::mouseMove(native, from + way);
+        QCOMPARE(window.pos(), before + way);
+    }
+    if (back) {
+        QTest::mouseMove(native, from - way);
+        QCOMPARE(window.pos(), before);
+    }
+    QTest::mouseRelease(native, Qt::LeftButton, Qt::NoModifier, from);
+    QCOMPARE(QGuiApplication::clipboard()->text(),
+             copies ? QStringLiteral("0080ff") : QStringLiteral("kept"));
+    QTest::mouseClick(native, Qt::LeftButton, Qt::NoModifier, from); // the next click counts
+    QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("0080ff"));
 }
 
 QTEST_MAIN(TestPicker)

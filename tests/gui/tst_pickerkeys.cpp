@@ -44,6 +44,8 @@ private slots:
     void sampleIsAButton();
     void fieldsCanBeLeft();
     void pickerTakesTheFocusAndGivesItBack();
+    void mouseLeavesNoMark_data();
+    void mouseLeavesNoMark();
 
 private:
     template<class Widget> Widget *get(const char *name) const { return world->get<Widget>(name); }
@@ -250,6 +252,39 @@ void TestPickerKeys::pickerTakesTheFocusAndGivesItBack()
     QCOMPARE(QApplication::focusWidget(), get<QWidget>("svSelector"));
     get<QAbstractButton>("pushButton_2")->click();
     QCOMPARE(QApplication::focusWidget(), get<QWidget>("colorpick1"));
+}
+
+void TestPickerKeys::mouseLeavesNoMark_data()
+{
+    QTest::addColumn<QByteArray>("closer");
+    QTest::newRow("Apply Value") << QByteArray("pushButton");
+    QTest::newRow("Cancel") << QByteArray("pushButton_2");
+}
+
+/// The focus is marked for those who came by the keyboard, in both directions.
+void TestPickerKeys::mouseLeavesNoMark()
+{
+    QFETCH(QByteArray, closer);
+    auto *const opener = get<QWidget>("colorpick1");
+    auto *const square = get<SVSelector>("svSelector");
+    auto *const close = get<QWidget>(closer.constData());
+    get<QAbstractButton>("pushButton_2")->click();
+    get<QWidget>("backlight_on")->setFocus();
+    const QImage unmarked = opener->grab().toImage();
+
+    QTest::mouseClick(opener, Qt::LeftButton);
+    QCOMPARE(QApplication::focusWidget(), square);
+    QVERIFY(frameOf(*square).lightness() < 240);
+    QTest::mouseClick(close, Qt::LeftButton);
+    QVERIFY(opener->grab().toImage() == unmarked);
+
+    opener->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(opener, Qt::Key_Space);
+    QCOMPARE(QApplication::focusWidget(), square);
+    QVERIFY(frameOf(*square).lightness() > 240);
+    QTest::keyClick(close, Qt::Key_Space);
+    QCOMPARE(QApplication::focusWidget(), opener);
+    QVERIFY(opener->grab().toImage() != unmarked);
 }
 
 QTEST_MAIN(TestPickerKeys)

@@ -7,6 +7,24 @@
 
 using namespace PickerFields;
 
+namespace {
+
+/// Types letter by letter; a "<" is a Backspace, a ">" a Delete.
+void typeAndErase(QLineEdit &edit, const QString &keys)
+{
+    for (const QChar key : keys) {
+        if (key == QLatin1Char('<')) {
+            QTest::keyClick(&edit, Qt::Key_Backspace);
+        } else if (key == QLatin1Char('>')) {
+            QTest::keyClick(&edit, Qt::Key_Delete);
+        } else {
+            QTest::keyClick(&edit, key.toLatin1());
+        }
+    }
+}
+
+} // namespace
+
 /// Colours typed into the picker's fields, which are written anew at each letter.
 class TestPickerTyping : public QObject
 {
@@ -21,6 +39,14 @@ private slots:
     void hexLetterByLetter_data();
     void hexLetterByLetter();
     void hexAfterAnotherEdit();
+    void hexOvertyping_data();
+    void hexOvertyping();
+    void hashIsTaken_data();
+    void hashIsTaken();
+    void typedHashIsLeftOut();
+    void numbersKeepApart_data();
+    void numbersKeepApart();
+    void blankGoesWithTheFocus();
 };
 
 void TestPickerTyping::typedLetterByLetter_data()
@@ -138,13 +164,7 @@ void TestPickerTyping::hexLetterByLetter()
     open(world, "colorpick1", "Zone1Color=1 2 3\n");
     auto *const edit = world.get<QLineEdit>("leHex");
     edit->selectAll();
-    for (const QChar key : keys) {
-        if (key == QLatin1Char('<')) {
-            QTest::keyClick(edit, Qt::Key_Backspace);
-        } else {
-            QTest::keyClick(edit, key.toLatin1());
-        }
-    }
+    typeAndErase(*edit, keys);
     QTEST(edit->text(), "field");
     QTEST(text(world, "leRGB"), "rgb");
 }
@@ -186,6 +206,168 @@ void TestPickerTyping::hexAfterAnotherEdit()
     edit->end(false);
     QTest::keyClick(edit, Qt::Key_Backspace);
     QCOMPARE(edit->text(), QStringLiteral("00aa0"));
+}
+
+void TestPickerTyping::hexOvertyping_data()
+{
+    QTest::addColumn<int>("start");
+    QTest::addColumn<int>("length");
+    QTest::addColumn<QString>("keys"); // a "<" is a Backspace, a ">" a Delete
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<int>("cursor");
+    QTest::newRow("first pair") << 0 << 2 << "12"
+                                << "12ff80" << 2;
+    QTest::newRow("middle pair") << 2 << 2 << "ab"
+                                 << "00ab80" << 4;
+    QTest::newRow("last pair") << 4 << 2 << "cd"
+                               << "00ffcd" << 6;
+    QTest::newRow("one digit") << 0 << 1 << "a"
+                               << "a0ff80" << 1;
+    QTest::newRow("two pairs, by way of three digits") << 0 << 4 << "1234"
+                                                       << "123480" << 4;
+    QTest::newRow("pair between three digits") << 1 << 4 << "1234"
+                                               << "012340" << 5;
+    QTest::newRow("erased to three and typed on") << 3 << 0 << "<<<123"
+                                                  << "123f80" << 3;
+    QTest::newRow("deleted to two") << 0 << 0 << ">>>>"
+                                    << "80" << 0;
+    QTest::newRow("nothing to erase before three digits") << 3 << 0 << "<<<<"
+                                                          << "ff8800" << 0;
+    QTest::newRow("capital letter") << 0 << 1 << "A"
+                                    << "a0ff80" << 1;
+}
+
+void TestPickerTyping::hexOvertyping()
+{
+    QFETCH(int, start);
+    QFETCH(int, length);
+    QFETCH(QString, keys);
+    TestWindow world;
+    open(world, "colorpick1", "Zone1Color=0 255 128\n");
+    auto *const edit = world.get<QLineEdit>("leHex");
+    QCOMPARE(edit->text(), QStringLiteral("00ff80"));
+    edit->setCursorPosition(start);
+    if (length > 0) {
+        edit->setSelection(start, length);
+    }
+    typeAndErase(*edit, keys);
+    QTEST(edit->text(), "field");
+    QTEST(edit->cursorPosition(), "cursor");
+}
+
+void TestPickerTyping::hashIsTaken_data()
+{
+    QTest::addColumn<QString>("pasted");
+    QTest::addColumn<int>("start");
+    QTest::addColumn<int>("length");
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QString>("rgb");
+    QTest::newRow("over everything") << "#ff00aa" << 0 << 6 << "ff00aa"
+                                     << "255 0 170";
+    QTest::newRow("capital letters, two hashes") << "##FF00AA" << 0 << 6 << "ff00aa"
+                                                 << "255 0 170";
+    QTest::newRow("three digits") << "#0A0" << 0 << 6 << "00aa00"
+                                  << "0 170 0";
+    QTest::newRow("behind the old colour") << "#ff00aa" << 6 << 0 << "ff00aa"
+                                           << "255 0 170";
+    QTest::newRow("before the old colour") << "#ff00aa" << 0 << 0 << "ff00aa"
+                                           << "255 0 170";
+    QTest::newRow("amid the old colour") << "#0A0" << 3 << 0 << "00aa00"
+                                         << "0 170 0";
+    QTest::newRow("five digits") << "#ff00a" << 0 << 6 << "#ff00a"
+                                 << "0 255 128";
+    QTest::newRow("no digits") << "#red" << 0 << 6 << "#red"
+                               << "0 255 128";
+}
+
+/// As others write colours, and as a right click on the sample copies them.
+void TestPickerTyping::hashIsTaken()
+{
+    QFETCH(QString, pasted);
+    QFETCH(int, start);
+    QFETCH(int, length);
+    TestWindow world;
+    open(world, "colorpick1", "Zone1Color=0 255 128\n");
+    auto *const edit = world.get<QLineEdit>("leHex");
+    QGuiApplication::clipboard()->setText(pasted);
+    edit->setCursorPosition(start);
+    if (length > 0) {
+        edit->setSelection(start, length);
+    }
+    QTest::keyClick(edit, Qt::Key_V, Qt::ControlModifier);
+    QTEST(edit->text(), "field");
+    QTEST(text(world, "leRGB"), "rgb");
+    QCOMPARE(edit->cursorPosition(), edit->text().size());
+}
+
+void TestPickerTyping::typedHashIsLeftOut()
+{
+    TestWindow world;
+    open(world, "colorpick1", "Zone1Color=1 2 3\n");
+    type(world, "leHex", QStringLiteral("#c85abf"));
+    QCOMPARE(text(world, "leHex"), QStringLiteral("c85abf"));
+    QCOMPARE(text(world, "leRGB"), QStringLiteral("200 90 191"));
+}
+
+void TestPickerTyping::numbersKeepApart_data()
+{
+    QTest::addColumn<int>("cursor");
+    QTest::addColumn<QString>("keys"); // a "<" is a Backspace, a ">" a Delete
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QColor>("colour");
+    QTest::newRow("last") << 7 << "<7"
+                          << "255 0 7" << QColor(255, 0, 7);
+    QTest::newRow("middle") << 5 << "<7"
+                            << "255 7 0" << QColor(255, 7, 0);
+    QTest::newRow("middle, deleted") << 4 << ">128"
+                                     << "255 128 0" << QColor(255, 128, 0);
+    QTest::newRow("first") << 3 << "<<<9"
+                           << "9 0 0" << QColor(9, 0, 0);
+    QTest::newRow("first, deleted") << 0 << ">>>77"
+                                    << "77 0 0" << QColor(77, 0, 0);
+    QTest::newRow("last, erased") << 7 << "<"
+                                  << "255 0 " << QColor(255, 0, 0);
+    QTest::newRow("middle, erased") << 5 << "<"
+                                    << "255  0" << QColor(255, 0, 0);
+    QTest::newRow("first, erased") << 3 << "<<<"
+                                   << " 0 0" << QColor(2, 0, 0);
+    QTest::newRow("last two") << 7 << "<<<8 9"
+                              << "255 8 9" << QColor(255, 8, 9);
+    QTest::newRow("everything") << 7 << "<<<<<<<1 2 3"
+                                << "1 2 3" << QColor(1, 2, 3);
+    QTest::newRow("a blank too many") << 7 << " "
+                                      << "255 0 0" << QColor(255, 0, 0);
+}
+
+/// An erased number leaves its place to the next: its neighbours do not grow together.
+void TestPickerTyping::numbersKeepApart()
+{
+    QFETCH(int, cursor);
+    QFETCH(QString, keys);
+    TestWindow world;
+    open(world, "colorpick1", "Zone1Color=255 0 0\n");
+    auto *const edit = world.get<QLineEdit>("leRGB");
+    edit->setCursorPosition(cursor);
+    typeAndErase(*edit, keys);
+    QTEST(edit->text(), "field");
+    QTEST(world.get<ColorSample>("colorSample")->color(), "colour");
+}
+
+void TestPickerTyping::blankGoesWithTheFocus()
+{
+    TestWindow world;
+    open(world, "colorpick1", "Zone1Color=255 0 0\n");
+    world.window->show();
+    QVERIFY(QTest::qWaitForWindowActive(world.window.get()));
+    auto *const edit = world.get<QLineEdit>("leRGB");
+    edit->setFocus();
+    edit->end(false);
+    QTest::keyClick(edit, Qt::Key_Backspace);
+    QCOMPARE(edit->text(), QStringLiteral("255 0 "));
+    QTest::keyClick(edit, Qt::Key_Return); // leaves the field to its user
+    QCOMPARE(edit->text(), QStringLiteral("255 0 "));
+    world.get<QWidget>("leHex")->setFocus();
+    QCOMPARE(edit->text(), QStringLiteral("255 0"));
 }
 
 QTEST_MAIN(TestPickerTyping)
