@@ -119,14 +119,6 @@ void AppSettings::writeSetting(const SettingKey &key, const QVariant &value) con
     report(WriteSettings, *settings);
 }
 
-void AppSettings::keepSetting(const SettingKey &key, const QVariant &value) const
-{
-    const QVariant stored = readSetting(key);
-    if (!stored.isValid() || stored.toString() != inStoredForm(key, value).toString()) {
-        writeSetting(key, value);
-    }
-}
-
 QVariant AppSettings::readBranding(const SettingKey &key) const
 {
     return readFrom(ReadBranding, brandingIniPath, key);

@@ -9,6 +9,12 @@
 #include <array>
 #include <memory>
 
+/// The full name of a key of the settings or branding file ("settings/" + name).
+QString settingsPath(const SettingKey &key);
+
+/// @p value as it is to be stored under @p key: a number for "1"/"0", a bool for "true"/"false".
+QVariant inStoredForm(const SettingKey &key, const QVariant &value);
+
 /// The program's three INI files: the user's settings, the read-only branding file and the work
 /// file for the updater. A small value class; whoever needs settings holds one.
 ///
@@ -30,14 +36,40 @@ public:
     const QString &brandingIni() const { return brandingIniPath; }
     const QString &workIni() const { return workIniPath; }
 
-    /// The stored value; an invalid QVariant when the key is missing, which reads as false, 0, ""
-    /// or an empty byte array.
-    QVariant readSetting(const SettingKey &key) const;
-    /// Stores @p value in the key's own form.
-    void writeSetting(const SettingKey &key, const QVariant &value) const;
+    /// The stored value of a key, within its bounds; its default where none is stored.
+    template<class Value> Value read(const Key<Value> &key) const
+    {
+        return key.from(readSetting(key));
+    }
+    template<class Value> Value read(const Key<Value, IniFile::Branding> &key) const
+    {
+        return key.from(readBranding(key));
+    }
+
+    /// Stores @p value, which is of the key's very type: no other compiles.
+    template<class Value> void write(const Key<Value> &key, const Value &value) const
+    {
+        writeSetting(key, value);
+    }
+    template<class Value> void write(const Key<Value, IniFile::Work> &key, const Value &value) const
+    {
+        writeWorkQueue(key, value);
+    }
+
     /// The same, without touching a file that holds the very value: for what is stored again and
     /// again, where each write waits for the disk.
-    void keepSetting(const SettingKey &key, const QVariant &value) const;
+    template<class Value> void writeIfChanged(const Key<Value> &key, const Value &value) const
+    {
+        const QVariant stored = readSetting(key);
+        if (!stored.isValid() || stored.toString() != inStoredForm(key, value).toString()) {
+            writeSetting(key, value);
+        }
+    }
+
+    // The accessors under those three, one a file and direction. They look at no type: a missing
+    // key is an invalid QVariant, and what is written takes the key's stored form.
+    QVariant readSetting(const SettingKey &key) const;
+    void writeSetting(const SettingKey &key, const QVariant &value) const;
     QVariant readBranding(const SettingKey &key) const;
     void writeWorkQueue(const SettingKey &key, const QVariant &value) const;
 
@@ -67,9 +99,3 @@ private:
     /// trouble is one line.
     std::shared_ptr<Reported> reported = std::make_shared<Reported>();
 };
-
-/// The full name of a key of the settings or branding file ("settings/" + name).
-QString settingsPath(const SettingKey &key);
-
-/// @p value as it is to be stored under @p key: a number for "1"/"0", a bool for "true"/"false".
-QVariant inStoredForm(const SettingKey &key, const QVariant &value);

@@ -68,8 +68,8 @@ int main(int argc, char *argv[])
     QObject::connect(&application, &SingleApplication::instanceStarted,
                      [&startedAgain] { startedAgain = true; });
 
-    const AppSettings paths;
-    MainWindow window(paths, *platform, application, QDateTime::currentMSecsSinceEpoch);
+    const AppSettings settings;
+    MainWindow window(settings, *platform, application, QDateTime::currentMSecsSinceEpoch);
     QObject::connect(&application, SIGNAL(aboutToQuit()), &window, SLOT(ShutdownQuit()));
     QObject::connect(&application, &SingleApplication::instanceStarted, &window, [&window] {
         window.raise();
@@ -79,10 +79,11 @@ int main(int argc, char *argv[])
         window.setFocus(Qt::OtherFocusReason);
     });
 
-    const auto settings = paths.openSettings();
-    paths.writeSetting(SettingKeys::appUrl,
-                       QDir::toNativeSeparators(QCoreApplication::applicationFilePath()));
-    const bool startHidden = settings->value(settingsPath(SettingKeys::startHidden)).toBool();
+    // Open until the event loop has ended, unlike all others: that is agreed for this one.
+    const auto openSettings = settings.openSettings();
+    settings.write(SettingKeys::appUrl,
+                   QDir::toNativeSeparators(QCoreApplication::applicationFilePath()));
+    const bool startHidden = settings.read(SettingKeys::startHidden);
 
     const bool stayHidden = startHidden && !startedAgain;
     // No flash, and nothing left to do for a window manager when a later start shows the window.

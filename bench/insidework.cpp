@@ -132,7 +132,7 @@ public:
                                    KeyboardPicture::Right, KeyboardPicture::Full}) {
             decode(picture, colour, brightness);
         }
-        world.settings.keepSetting(SettingKeys::singleColourLast, true);
+        world.settings.writeIfChanged(SettingKeys::singleColourLast, true);
         QCoreApplication::processEvents();
     }
 
@@ -226,7 +226,7 @@ int write(int rounds, int pieces, int foreign)
     writeFile(plainFile, content);
 
     inTurns(
-        rounds, pieces, [&](int piece) { settings.writeSetting(SettingKeys::brightLevel, piece); },
+        rounds, pieces, [&](int piece) { settings.write(SettingKeys::brightLevel, piece); },
         [&](int piece) {
             QSettings plain(plainFile, QSettings::IniFormat);
             plain.setValue(settingsPath(SettingKeys::brightLevel), piece);

@@ -103,12 +103,10 @@ void checkWrites(const FuzzWorld &world, MainWindow &window, const IniContents &
 /// The branding's colour, in the palette of a style that reads it anew.
 void checkHighlight(const FuzzWorld &world, DarkStyle &style)
 {
-    const auto channel = [&world](const SettingKey &key) {
-        return world.paths().readBranding(key).toInt();
-    };
-    const QColor expected(channel(BrandingKeys::highlightRed),
-                          channel(BrandingKeys::highlightGreen),
-                          channel(BrandingKeys::highlightBlue));
+    const AppSettings &settings = world.paths();
+    const QColor expected(settings.read(BrandingKeys::highlightRed),
+                          settings.read(BrandingKeys::highlightGreen),
+                          settings.read(BrandingKeys::highlightBlue));
     QPalette palette;
     style.polish(palette);
     require(palette.color(QPalette::Active, QPalette::Highlight) == expected,
@@ -137,8 +135,7 @@ void loadByNewWindow(const FuzzWorld &world, const QByteArray &settingsFile)
     FakePlatform platform;
     FakePrimaryRole role;
     MainWindow window(world.paths(), platform, role, [] { return someTime; });
-    require(widget<QLabel>(window, "Title")->text()
-                == world.paths().readBranding(BrandingKeys::appName).toString(),
+    require(widget<QLabel>(window, "Title")->text() == world.paths().read(BrandingKeys::appName),
             "the title is the branding's");
     checkLoaded(world, window, settingsFile);
 }

@@ -158,7 +158,6 @@ bool DarkStyle::eventFilter(QObject *watched, QEvent *event)
 
 QColor DarkStyle::brandingHighlight() const
 {
-    return {settings.readBranding(BrandingKeys::highlightRed).toInt(),
-            settings.readBranding(BrandingKeys::highlightGreen).toInt(),
-            settings.readBranding(BrandingKeys::highlightBlue).toInt()};
+    return {settings.read(BrandingKeys::highlightRed), settings.read(BrandingKeys::highlightGreen),
+            settings.read(BrandingKeys::highlightBlue)};
 }

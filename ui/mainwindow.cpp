@@ -61,7 +61,7 @@ MainWindow::MainWindow(AppSettings appSettings, Platform &system, PrimaryRole &r
 
     ui->colorpickframe->hide();
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
-    ui->Title->setText(settings.readBranding(BrandingKeys::appName).toString());
+    ui->Title->setText(settings.read(BrandingKeys::appName));
 
     systemtraystart();
     LoadSettings();

@@ -160,31 +160,31 @@ void MainWindow::on_pushButton_clicked()
     const QString colour = ui->leRGB->text(); // stored as typed, also when it is no colour
     switch (pickTarget) {
     case 1:
-        settings.writeSetting(SettingKeys::leftColour, colour);
+        settings.write(SettingKeys::leftColour, colour);
         lighting.leftZoneColor = colour;
         break;
     case 2:
-        settings.writeSetting(SettingKeys::centreColour, colour);
+        settings.write(SettingKeys::centreColour, colour);
         lighting.centerZoneColor = colour;
         break;
     case 3:
-        settings.writeSetting(SettingKeys::rightColour, colour);
+        settings.write(SettingKeys::rightColour, colour);
         lighting.rightZoneColor = colour;
         break;
     case 4:
-        for (const SettingKey &key : {SettingKeys::leftColour, SettingKeys::centreColour,
-                                      SettingKeys::rightColour, SettingKeys::singleColour}) {
-            settings.writeSetting(key, colour);
+        for (const Key<QString> &key : {SettingKeys::leftColour, SettingKeys::centreColour,
+                                        SettingKeys::rightColour, SettingKeys::singleColour}) {
+            settings.write(key, colour);
         }
         lighting.rightZoneColor = colour;
         lighting.leftZoneColor = colour;
         lighting.centerZoneColor = colour;
         lighting.singleZoneColor = colour;
         lighting.singleColorSelected = true;
-        settings.writeSetting(SettingKeys::singleColourLast, true);
+        settings.write(SettingKeys::singleColourLast, true);
         break;
     case 5:
-        settings.writeSetting(SettingKeys::stripeLid, colour);
+        settings.write(SettingKeys::stripeLid, colour);
         lighting.stripeLidColor = colour;
         break;
     default:

@@ -23,19 +23,19 @@ void MainWindow::updateIdleTime()
 
 void MainWindow::on_comboDimValue_currentIndexChanged(int index)
 {
-    settings.writeSetting(SettingKeys::dimTimer, index);
+    settings.write(SettingKeys::dimTimer, index);
     updateIdleTime();
 }
 
 void MainWindow::on_touch_mouse_wake_clicked()
 {
-    settings.writeSetting(SettingKeys::touchWake, ui->touch_mouse_wake->isChecked());
+    settings.write(SettingKeys::touchWake, ui->touch_mouse_wake->isChecked());
 }
 
 void MainWindow::on_CheckBox_AutoDim_clicked()
 {
     const bool checked = ui->CheckBox_AutoDim->isChecked();
-    settings.writeSetting(SettingKeys::autoDim, checked);
+    settings.write(SettingKeys::autoDim, checked);
     if (checked) {
         starttimerdelay();
         showBrightness(Messages::brightnessSuffix(DimPhase::Watching));

@@ -61,7 +61,7 @@ void MainWindow::tintPicture(int img, const QString &colour)
 void MainWindow::rememberSingleColour(bool selected)
 {
     if (!loadingSettings) {
-        settings.keepSetting(SettingKeys::singleColourLast, selected);
+        settings.writeIfChanged(SettingKeys::singleColourLast, selected);
         lighting.singleColorSelected = selected;
     }
 }
@@ -107,7 +107,7 @@ void MainWindow::on_horizontalSlider_valueChanged(int /*value*/)
     showBrightness("%");
     if (!autoDimActive) {
         savedBrightness = ui->horizontalSlider->value();
-        settings.writeSetting(SettingKeys::brightLevel, savedBrightness);
+        settings.write(SettingKeys::brightLevel, savedBrightness);
     }
 }
 
@@ -131,8 +131,8 @@ void MainWindow::on_backlight_off_clicked()
 {
     if (!loadingSettings && ui->backlight_off->isChecked()) {
         lighting.blacken();
-        settings.writeSetting(SettingKeys::backlightOff, true);
-        settings.writeSetting(SettingKeys::backlightOn, false);
+        settings.write(SettingKeys::backlightOff, true);
+        settings.write(SettingKeys::backlightOn, false);
     }
     setLightingControlsEnabled(false);
 }
@@ -143,8 +143,8 @@ void MainWindow::on_backlight_on_clicked()
         wake.wakePending = true;
         // The stripe deliberately stays black until its colour or the brightness changes.
         applyAllColours();
-        settings.writeSetting(SettingKeys::backlightOn, true);
-        settings.writeSetting(SettingKeys::backlightOff, false);
+        settings.write(SettingKeys::backlightOn, true);
+        settings.write(SettingKeys::backlightOff, false);
     }
     setLightingControlsEnabled(true);
 }
@@ -160,7 +160,7 @@ void MainWindow::on_Combo_Effect_currentIndexChanged(int index)
         }
         lighting.effectWord = wordText(effects.at(static_cast<std::size_t>(index)).word);
     }
-    settings.writeSetting(SettingKeys::effects, index);
+    settings.write(SettingKeys::effects, index);
 }
 
 void MainWindow::showEffect(bool chosen)
@@ -188,7 +188,7 @@ void MainWindow::on_StartHidden_2_clicked()
         // Never made invisible again: unchecking only disables the page, on purpose.
         ui->tabWidget_2->setTabVisible(StripePage, true);
     }
-    settings.writeSetting(SettingKeys::stripeOption, checked);
+    settings.write(SettingKeys::stripeOption, checked);
     enableStripePage(checked);
     SetStyle();
 }
@@ -203,7 +203,7 @@ void MainWindow::suspendresumeaction()
 {
     lastActivityMs = now();
     lighting.blacken();
-    if (settings.readSetting(SettingKeys::backlightOn).toBool()) {
+    if (settings.read(SettingKeys::backlightOn)) {
         wake.wakePending = true;
     }
     QTimer::singleShot(reloadDelayMs, this, SLOT(LoadSettings()));

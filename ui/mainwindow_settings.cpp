@@ -4,6 +4,7 @@
 
 #include "lighting/devicewords.h"
 #include "lighting/effects.h"
+#include "lighting/idletimes.h"
 #include "system/platform.h"
 #include "ui/darkstyle.h"
 #include "ui/zonepages.h"
@@ -22,11 +23,9 @@ constexpr int dimStartDelayMs = 5000;
 constexpr int companionPeriodMs = 1000;
 constexpr QSize firstWindowSize{630, 630};
 
-/// A stored index that the list does not have selects its first item instead of none.
-void selectStored(QComboBox &list, int index)
-{
-    list.setCurrentIndex(index >= 0 && index < list.count() ? index : 0);
-}
+// The settings do not know the lists whose indices they hold.
+static_assert(SettingKeys::effects.bounds.highest + 1 == int{effects.size()});
+static_assert(SettingKeys::dimTimer.bounds.highest + 1 == int{idleTimesMs.size()});
 
 } // namespace
 
@@ -37,16 +36,16 @@ void MainWindow::LoadSettings()
     ui->label_16->hide();
     restoreWindowGeometry();
 
-    ui->Check_CloseHides->setChecked(settings.readSetting(SettingKeys::minimizeClose).toBool());
+    ui->Check_CloseHides->setChecked(settings.read(SettingKeys::minimizeClose));
     ui->Check_StartwithWindows->setChecked(
         platform.autostartValue(QStringLiteral("none"))
         == QDir::toNativeSeparators(QCoreApplication::applicationFilePath()));
-    const bool stripeOption = settings.readSetting(SettingKeys::stripeOption).toBool();
+    const bool stripeOption = settings.read(SettingKeys::stripeOption);
     ui->StartHidden_2->setChecked(stripeOption);
     enableStripePage(stripeOption);
-    ui->StartHidden->setChecked(settings.readSetting(SettingKeys::startHidden).toBool());
+    ui->StartHidden->setChecked(settings.read(SettingKeys::startHidden));
 
-    const bool perKey = settings.readSetting(SettingKeys::perKey).toBool();
+    const bool perKey = settings.read(SettingKeys::perKey);
     ui->UsePerKeyApp->setChecked(perKey);
     if (perKey) {
         enterPerKeyMode();
@@ -62,9 +61,8 @@ void MainWindow::LoadSettings()
 
 void MainWindow::restoreWindowGeometry()
 {
-    const bool restored =
-        restoreGeometry(settings.readSetting(SettingKeys::mainWindowGeometry).toByteArray());
-    restoreState(settings.readSetting(SettingKeys::mainWindowState).toByteArray(), 0);
+    const bool restored = restoreGeometry(settings.read(SettingKeys::mainWindowGeometry));
+    restoreState(settings.read(SettingKeys::mainWindowState), 0);
     const QScreen &screen = *QGuiApplication::primaryScreen();
     if (!restored) { // none stored, or none that can be read
         setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, firstWindowSize,
@@ -76,7 +74,7 @@ void MainWindow::restoreWindowGeometry()
 
 void MainWindow::delayedApply()
 {
-    const bool backlightOn = settings.readSetting(SettingKeys::backlightOn).toBool();
+    const bool backlightOn = settings.read(SettingKeys::backlightOn);
     if (backlightOn) {
         wake.wakePending = true;
     }
@@ -86,19 +84,19 @@ void MainWindow::delayedApply()
 
     lastActivityMs = now();
     lighting.centreWord = wordText(DeviceWords::applying);
-    selectStored(*ui->comboDimValue, settings.readSetting(SettingKeys::dimTimer).toInt());
-    ui->horizontalSlider->setValue(settings.readSetting(SettingKeys::brightLevel).toInt());
+    ui->comboDimValue->setCurrentIndex(settings.read(SettingKeys::dimTimer));
+    ui->horizontalSlider->setValue(settings.read(SettingKeys::brightLevel));
     savedBrightness = ui->horizontalSlider->value();
     // A tick during loading noted its brightness and applied nothing.
     lastAppliedBrightness = nothingApplied;
     autoDimActive = false; // the slider is the user's again, also where an effect keeps polls off
     showBrightness("%");
-    lighting.stripeLidColor = settings.readSetting(SettingKeys::stripeLid).toString();
+    lighting.stripeLidColor = settings.read(SettingKeys::stripeLid);
     SetZoneColor(5, lighting.stripeLidColor);
-    ui->touch_mouse_wake->setChecked(settings.readSetting(SettingKeys::touchWake).toBool());
+    ui->touch_mouse_wake->setChecked(settings.read(SettingKeys::touchWake));
     loadZoneColours();
 
-    ui->CheckBox_AutoDim->setChecked(settings.readSetting(SettingKeys::autoDim).toBool());
+    ui->CheckBox_AutoDim->setChecked(settings.read(SettingKeys::autoDim));
     if (ui->CheckBox_AutoDim->isChecked()) {
         QTimer::singleShot(dimStartDelayMs, this, [this] {
             if (ui->CheckBox_AutoDim->isChecked()) { // not taken back meanwhile
@@ -116,7 +114,7 @@ void MainWindow::delayedApply()
 void MainWindow::applyStoredEffect()
 {
     const int former = ui->Combo_Effect->currentIndex();
-    selectStored(*ui->Combo_Effect, settings.readSetting(SettingKeys::effects).toInt());
+    ui->Combo_Effect->setCurrentIndex(settings.read(SettingKeys::effects));
     const int index = ui->Combo_Effect->currentIndex();
     // The list announces a new index only, but settings that are applied again have taken the
     // effect's looks back, and one chosen while loading has not been applied.
@@ -128,9 +126,9 @@ void MainWindow::applyStoredEffect()
 
 void MainWindow::loadZoneColours()
 {
-    lighting.singleColorSelected = settings.readSetting(SettingKeys::singleColourLast).toBool();
+    lighting.singleColorSelected = settings.read(SettingKeys::singleColourLast);
     if (lighting.singleColorSelected) {
-        const QString colour = settings.readSetting(SettingKeys::singleColour).toString();
+        const QString colour = settings.read(SettingKeys::singleColour);
         lighting.leftZoneColor = colour;
         lighting.centerZoneColor = colour;
         lighting.rightZoneColor = colour;
@@ -139,11 +137,11 @@ void MainWindow::loadZoneColours()
         SetZoneColor(4, colour);
         return;
     }
-    lighting.leftZoneColor = settings.readSetting(SettingKeys::leftColour).toString();
+    lighting.leftZoneColor = settings.read(SettingKeys::leftColour);
     SetZoneColor(1, lighting.leftZoneColor);
-    lighting.centerZoneColor = settings.readSetting(SettingKeys::centreColour).toString();
+    lighting.centerZoneColor = settings.read(SettingKeys::centreColour);
     SetZoneColor(2, lighting.centerZoneColor);
-    lighting.rightZoneColor = settings.readSetting(SettingKeys::rightColour).toString();
+    lighting.rightZoneColor = settings.read(SettingKeys::rightColour);
     SetZoneColor(3, lighting.rightZoneColor);
     setKeyboardImageColor(0, 0, 0, 0, 4);
     ui->tabWidget_2->setCurrentIndex(ZonesPage);
@@ -151,16 +149,16 @@ void MainWindow::loadZoneColours()
 
 void MainWindow::ShutdownQuit()
 {
-    settings.writeSetting(SettingKeys::mainWindowGeometry, saveGeometry());
-    settings.writeSetting(SettingKeys::mainWindowState, saveState(0));
+    settings.write(SettingKeys::mainWindowGeometry, saveGeometry());
+    settings.write(SettingKeys::mainWindowState, saveState(0));
 }
 
 void MainWindow::on_StartHidden_clicked()
 {
-    settings.writeSetting(SettingKeys::startHidden, ui->StartHidden->isChecked());
+    settings.write(SettingKeys::startHidden, ui->StartHidden->isChecked());
 }
 
 void MainWindow::on_Check_CloseHides_clicked()
 {
-    settings.writeSetting(SettingKeys::minimizeClose, ui->Check_CloseHides->isChecked());
+    settings.write(SettingKeys::minimizeClose, ui->Check_CloseHides->isChecked());
 }

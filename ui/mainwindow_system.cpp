@@ -80,11 +80,11 @@ void MainWindow::on_pushButton_3_clicked()
 void MainWindow::on_UsePerKeyApp_clicked()
 {
     if (!ui->UsePerKeyApp->isChecked()) {
-        settings.writeSetting(SettingKeys::perKey, false);
+        settings.write(SettingKeys::perKey, false);
         leavePerKeyMode();
     } else if (IsAppRunningAsAdminMode() != 0) {
         enterPerKeyMode();
-        settings.writeSetting(SettingKeys::perKey, true);
+        settings.write(SettingKeys::perKey, true);
         QProcess::execute(besideProgram(perKeyInstaller), {});
     } else {
         // Whatever the answer, the box stays checked while the stored mode stays off, on purpose.

@@ -18,8 +18,7 @@ constexpr const char *updater = "updates\\Update.exe";
 
 std::optional<QString> MainWindow::fetchLatestVersion()
 {
-    const VersionRequest request(
-        versionUrl(settings.readBranding(BrandingKeys::updateServer).toString()));
+    const VersionRequest request(versionUrl(settings.read(BrandingKeys::updateServer)));
     QEventLoop loop;
     connect(&request, SIGNAL(finished()), &loop, SLOT(quit()));
     connect(this, SIGNAL(closed()), &loop, SLOT(quit()));
@@ -58,7 +57,7 @@ void MainWindow::showVersions(const QString &installed, const QString &latest)
     const bool updateWaits = verdict == VersionVerdict::UpdateWaits;
     ui->Label_SoftwareVersion_desc->setText(QString::fromLatin1(texts.description));
     ui->Button_Update->setEnabled(updateWaits);
-    settings.writeWorkQueue(WorkKeys::updatePending, updateWaits);
+    settings.write(WorkKeys::updatePending, updateWaits);
     if (updateWaits) {
         offerUpdate();
     } else if (manualCheck) {

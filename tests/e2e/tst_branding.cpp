@@ -174,9 +174,9 @@ void TestBranding::pageIsComplete()
     for (const QString &file : files) {
         QVERIFY2(text.contains(QLatin1Char('`') + file + QLatin1Char('`')), qPrintable(file));
     }
-    for (const SettingKey &key :
-         {BrandingKeys::appName, BrandingKeys::highlightRed, BrandingKeys::highlightGreen,
-          BrandingKeys::highlightBlue, BrandingKeys::updateServer}) {
+    for (const SettingKey &key : std::initializer_list<SettingKey>{
+             BrandingKeys::appName, BrandingKeys::highlightRed, BrandingKeys::highlightGreen,
+             BrandingKeys::highlightBlue, BrandingKeys::updateServer}) {
         const QString name = QString::fromLatin1(key.name);
         QVERIFY2(text.contains(QLatin1Char('`') + name + QLatin1Char('`')), key.name);
         QVERIFY2(text.contains(QLatin1Char('\n') + name + QLatin1Char('=')), key.name);

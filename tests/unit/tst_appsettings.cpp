@@ -12,8 +12,36 @@
 #include <QTest>
 
 #include <memory>
+#include <type_traits>
 
 Q_DECLARE_METATYPE(SettingKey)
+Q_DECLARE_METATYPE(const Key<int> *)
+
+namespace {
+
+template<class AnyKey, class Value, class = void> constexpr bool canWrite = false;
+template<class AnyKey, class Value>
+constexpr bool canWrite<AnyKey, Value,
+                        std::void_t<decltype(std::declval<AppSettings>().write(
+                            std::declval<AnyKey>(), std::declval<Value>()))>> = true;
+
+template<class AnyKey, class = void> constexpr bool canRead = false;
+template<class AnyKey>
+constexpr bool canRead<
+    AnyKey, std::void_t<decltype(std::declval<AppSettings>().read(std::declval<AnyKey>()))>> = true;
+
+// Of the key's own type, and of no other that would turn into it.
+static_assert(canWrite<Key<bool>, bool> && canWrite<Key<int>, int>);
+static_assert(canWrite<Key<QString>, QString> && canWrite<Key<QByteArray>, QByteArray>);
+static_assert(!canWrite<Key<bool>, int> && !canWrite<Key<int>, bool>);
+static_assert(!canWrite<Key<QString>, const char *> && !canWrite<Key<QString>, QByteArray>);
+static_assert(!canWrite<Key<int>, QVariant>);
+// The branding is not written, the work queue not read.
+static_assert(canRead<Key<int>> && canRead<Key<int, IniFile::Branding>>);
+static_assert(!canRead<Key<bool, IniFile::Work>> && canWrite<Key<bool, IniFile::Work>, bool>);
+static_assert(!canWrite<Key<int, IniFile::Branding>, int>);
+
+} // namespace
 
 class TestAppSettings : public QObject
 {
@@ -25,6 +53,9 @@ private slots:
     void paths();
     void defaultFolderIsTheDocuments();
     void missingKeysReadAsNothing();
+    void numbersBeyondTheirBounds_data();
+    void numbersBeyondTheirBounds();
+    void textsOfEveryType();
     void storedForms_data();
     void storedForms();
     void bytesComeBack();
@@ -100,6 +131,53 @@ void TestAppSettings::missingKeysReadAsNothing()
     QCOMPARE(settings->readSetting(SettingKeys::leftColour).toString(), QString());
     QVERIFY(settings->readSetting(SettingKeys::mainWindowGeometry).toByteArray().isEmpty());
     QVERIFY(!QFileInfo::exists(settings->companyDir())); // reading makes nothing
+}
+
+void TestAppSettings::numbersBeyondTheirBounds_data()
+{
+    QTest::addColumn<const Key<int> *>("key");
+    QTest::addColumn<QByteArray>("stored");
+    QTest::addColumn<int>("expected");
+    const auto row = [](const Key<int> &key, const char *stored, int expected) {
+        QTest::addRow("%s=%s", key.name, stored) << &key << QByteArray(stored) << expected;
+    };
+    row(SettingKeys::brightLevel, "-1", 0);
+    row(SettingKeys::brightLevel, "0", 0);
+    row(SettingKeys::brightLevel, "100", 100);
+    row(SettingKeys::brightLevel, "101", 100);
+    row(SettingKeys::brightLevel, "2147483648", 0); // no such number
+    row(SettingKeys::brightLevel, "bright", 0);
+    row(SettingKeys::effects, "-1", 0);
+    row(SettingKeys::effects, "7", 7);
+    row(SettingKeys::effects, "8", 0);
+    row(SettingKeys::dimTimer, "8", 8);
+    row(SettingKeys::dimTimer, "9", 0);
+}
+
+void TestAppSettings::numbersBeyondTheirBounds()
+{
+    QFETCH(const Key<int> *, key);
+    QFETCH(QByteArray, stored);
+    writeFile(settings->settingsIni(),
+              QByteArray("[settings]\n") + key->name + '=' + stored + '\n');
+    QTEST(settings->read(*key), "expected");
+}
+
+void TestAppSettings::textsOfEveryType()
+{
+    writeFile(settings->settingsIni(), "[settings]\nAutoDim=true\nPerKey=no\nZone1Color=1 2 3\n"
+                                       "mainWindowState=@ByteArray(\\0\\x1)\n");
+    writeFile(settings->brandingIni(), "[settings]\nappname=Ours\nhighlightcolor_RED=300\n");
+    QCOMPARE(settings->read(SettingKeys::autoDim), true);
+    QCOMPARE(settings->read(SettingKeys::perKey), true); // any text but "false", "0" and none
+    QCOMPARE(settings->read(SettingKeys::touchWake), false);
+    QCOMPARE(settings->read(SettingKeys::leftColour), QStringLiteral("1 2 3"));
+    QCOMPARE(settings->read(SettingKeys::rightColour), QString());
+    QCOMPARE(settings->read(SettingKeys::mainWindowState), QByteArray("\0\1", 2));
+    QCOMPARE(settings->read(SettingKeys::mainWindowGeometry), QByteArray());
+    QCOMPARE(settings->read(BrandingKeys::appName), QStringLiteral("Ours"));
+    QCOMPARE(settings->read(BrandingKeys::highlightRed), 300); // as it stands there
+    QCOMPARE(settings->read(BrandingKeys::highlightBlue), 0);
 }
 
 void TestAppSettings::storedForms_data()
@@ -198,7 +276,7 @@ void TestAppSettings::whatTheFileHoldsIsKept()
 {
     QFETCH(QByteArray, before);
     writeFile(settings->settingsIni(), before);
-    settings->keepSetting(SettingKeys::autoDim, true);
+    settings->writeIfChanged(SettingKeys::autoDim, true);
     QTEST(settingsText().replace("\r\n", "\n"), "after");
 }
 
