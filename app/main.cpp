@@ -69,7 +69,8 @@ int main(int argc, char *argv[])
                      [&startedAgain] { startedAgain = true; });
 
     const AppSettings settings;
-    MainWindow window(settings, *platform, application, QDateTime::currentMSecsSinceEpoch);
+    MainWindow window(settings, *platform, application, QDateTime::currentMSecsSinceEpoch,
+                      ServiceEndpoint());
     QObject::connect(&application, SIGNAL(aboutToQuit()), &window, SLOT(ShutdownQuit()));
     QObject::connect(&application, &SingleApplication::instanceStarted, &window, [&window] {
         window.raise();

@@ -20,6 +20,7 @@
 namespace {
 
 constexpr qint64 someTime = 1'000'000'000'000;
+constexpr ServiceEndpoint anyPort{ServiceEndpoint().address, 0};
 
 QComboBox &effectList(const MainWindow &window)
 {
@@ -134,7 +135,8 @@ void loadByNewWindow(const FuzzWorld &world, const QByteArray &settingsFile)
 {
     FakePlatform platform;
     FakePrimaryRole role;
-    MainWindow window(world.paths(), platform, role, [] { return someTime; });
+    MainWindow window(
+        world.paths(), platform, role, [] { return someTime; }, anyPort);
     require(widget<QLabel>(window, "Title")->text() == world.paths().read(BrandingKeys::appName),
             "the title is the branding's");
     checkLoaded(world, window, settingsFile);
@@ -146,8 +148,9 @@ void loadByOldWindow(const FuzzWorld &world, const QByteArray &settingsFile,
 {
     static FakePlatform platform;
     static FakePrimaryRole role;
-    static auto &window =
-        *new MainWindow(world.paths(), platform, role, [] { return someTime; }); // never destroyed
+    static auto &window = *new MainWindow(
+        world.paths(), platform, role, [] { return someTime; },
+        anyPort); // never destroyed
     world.write("[settings]\nP751LEDStripe=true\n", {});
     window.LoadSettings();
     window.delayedApply();

@@ -2,8 +2,10 @@
 
 #include <QtGlobal>
 
-/// Where the local agent finds the program.
-namespace ServiceEndpoint {
-constexpr const char *address = "127.0.0.9";
-constexpr quint16 port = 52316;
-} // namespace ServiceEndpoint
+/// Where the program is reached by agents. The default is the one place where they look for it;
+/// tests have places of their own.
+struct ServiceEndpoint
+{
+    const char *address = "127.0.0.9";
+    quint16 port = 52316; ///< 0: any that is free
+};

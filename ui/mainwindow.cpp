@@ -3,6 +3,7 @@
 #include "ui_mainwindow.h"
 
 #include "colorpicker/colorprocessor.h"
+#include "lighting/serviceserver.h"
 #include "ui/grooveclick.h"
 #include "ui/toggleaccessible.h"
 
@@ -21,7 +22,7 @@ const QString companionSegment = QStringLiteral("DashportSharedMem");
 } // namespace
 
 MainWindow::MainWindow(AppSettings appSettings, Platform &system, PrimaryRole &role,
-                       Clock systemClock, QWidget *parent)
+                       Clock systemClock, const ServiceEndpoint &endpoint, QWidget *parent)
     : QMainWindow(parent)
     , ui(std::make_unique<Ui::MainWindow>())
     , settings(std::move(appSettings))
@@ -70,7 +71,9 @@ MainWindow::MainWindow(AppSettings appSettings, Platform &system, PrimaryRole &r
     SetStyle();
     DPIfixes();
     // Last, because the steps before may take their time: an agent finds the server or nobody.
-    startServiceServer();
+    serviceServer = new ServiceServer(endpoint, platform, this);
+    serviceServer->start();
+    connect(serviceServer, SIGNAL(newConnection()), this, SLOT(sendFortune()));
 
     if (wasClosed) {
         // "Exit" was chosen while the check for updates waited, before there was an event loop that

@@ -6,10 +6,10 @@
 #include "lighting/commandline.h"
 #include "lighting/lightingstate.h"
 #include "lighting/myeventfilter.h"
+#include "lighting/serviceendpoint.h"
 #include "system/types.h"
 #include "ui/lastinput.h"
 
-#include <QAbstractSocket>
 #include <QMainWindow>
 #include <QPoint>
 #include <QSharedMemory>
@@ -25,7 +25,7 @@ class Platform;
 class PrimaryRole;
 class QLineEdit;
 class QMenu;
-class QTcpServer;
+class ServiceServer;
 struct DpiBand;
 struct Message;
 
@@ -45,8 +45,9 @@ class MainWindow : public QMainWindow, public RgbFieldOwner
 
 public:
     /// @param platform, primaryRole not owned; must live longer than the window
+    /// @param endpoint where agents are served
     MainWindow(AppSettings settings, Platform &platform, PrimaryRole &primaryRole, Clock clock,
-               QWidget *parent = nullptr);
+               const ServiceEndpoint &endpoint, QWidget *parent = nullptr);
     ~MainWindow() override;
 
     const LightingState &lightingState() const { return lighting; }
@@ -83,11 +84,10 @@ public slots:
     void on_Combo_Effect_currentIndexChanged(int index);
     void on_StartHidden_2_clicked();
     void suspendresumeaction();
+    /// Gives the agent that waits longest the line of this moment; nothing where none waits.
+    void sendFortune();
     /// @param a, b, c red, green, blue; @param d alpha; @param img number of a KeyboardPicture
     void setKeyboardImageColor(int a, int b, int c, int d, int img);
-
-    // mainwindow_server.cpp: words go to the agent
-    void sendFortune();
 
     // mainwindow_dimming.cpp
     void on_CheckBox_AutoDim_clicked();
@@ -177,9 +177,6 @@ private:
     void showEffect(bool chosen);
     void showBrightness(const char *suffix);
 
-    void startServiceServer();
-    /// Goes on accepting clients after the system refused to hand one over.
-    void acceptAgain(QAbstractSocket::SocketError error);
     QString rgbText() const override;
     void setRgbText(const QString &text) override;
     void connectColourPicker();
@@ -216,9 +213,7 @@ private:
     LightingState lighting;
     WakeSequence wake;
     QString commandLine;
-    QTcpServer *serviceServer = nullptr;
-    bool clientAccepted = false;  ///< since accepting last failed
-    bool acceptingFailed = false; ///< since the last client; the log has been told
+    ServiceServer *serviceServer = nullptr;
 
     /// Settings are being loaded: the lighting slots neither store nor raise a wake.
     bool loadingSettings = true;

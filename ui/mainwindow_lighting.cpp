@@ -3,6 +3,7 @@
 #include "ui_mainwindow.h"
 
 #include "lighting/effects.h"
+#include "lighting/serviceserver.h"
 #include "ui/darkstyle.h"
 #include "ui/keyboardpictures.h"
 #include "ui/zonepages.h"
@@ -64,6 +65,18 @@ void MainWindow::rememberSingleColour(bool selected)
         settings.writeIfChanged(SettingKeys::singleColourLast, selected);
         lighting.singleColorSelected = selected;
     }
+}
+
+void MainWindow::sendFortune()
+{
+    // Asked only where there is an agent to answer: else the wake sequence would move on unheard.
+    serviceServer->answer([this] {
+        const LineChoice choice = chooseLine(
+            lighting, {ui->backlight_off->isChecked(), ui->horizontalSlider->value(), wake});
+        commandLine = choice.line;
+        wake = choice.wake;
+        return choice.line;
+    });
 }
 
 void MainWindow::setKeyboardImageColor(int a, int b, int c, int d, int img)

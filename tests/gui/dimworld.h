@@ -1,7 +1,6 @@
 #pragma once
 
 #include "tests/support/pictures.h"
-#include "tests/support/serviceclient.h"
 #include "tests/support/testwindow.h"
 
 #include <QCheckBox>
@@ -37,9 +36,9 @@ public:
         writeDimSettings("brightlevel=100\n");
         construct();
         QTRY_COMPARE_WITH_TIMEOUT(leftWord(), QStringLiteral("4026597120"), 3000);
-        ServiceClient::readLine();
-        ServiceClient::readLine();
-        QCOMPARE(ServiceClient::readLine(), DimWorldLines::red);
+        readLine();
+        readLine();
+        QCOMPARE(readLine(), DimWorldLines::red);
         get<QCheckBox>("CheckBox_AutoDim")->click();
     }
     /// The time between two polls passes, and the words follow the slider before the next.

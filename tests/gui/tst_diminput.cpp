@@ -109,7 +109,7 @@ void TestDimInput::effectWhileDimmed()
     world.get<QComboBox>("Combo_Effect")->setCurrentIndex(1);
     world.pollWithPress(DimWorld::aKey);
     QCOMPARE(world.shown(), 0); // stays where it is
-    QCOMPARE(ServiceClient::readLine(),
+    QCOMPARE(world.readLine(),
              QStringLiteral("3758108672,3758108672,3758108672,3758108672,268607488"));
     QVERIFY(!world.wakePending());
     world.get<QComboBox>("Combo_Effect")->setCurrentIndex(0);
@@ -193,15 +193,15 @@ void TestDimInput::backlightOffWhileDimmed()
     world.serveDimming();
     world.pollUntilDimmed();
     world.get<QAbstractButton>("backlight_off")->click();
-    QCOMPARE(ServiceClient::readLine(), DimWorldLines::dark);
+    QCOMPARE(world.readLine(), DimWorldLines::dark);
     world.pollWithPress(DimWorld::aKey);
     QCOMPARE(world.shown(), 100);
     QVERIFY(world.wakePending());
-    QCOMPARE(ServiceClient::readLine(), DimWorldLines::dark); // off stays off
+    QCOMPARE(world.readLine(), DimWorldLines::dark); // off stays off
     QVERIFY(world.wakePending());
     world.get<QAbstractButton>("backlight_on")->click();
     for (const QString &line : {DimWorldLines::wake, DimWorldLines::wake, DimWorldLines::red}) {
-        QCOMPARE(ServiceClient::readLine(), line);
+        QCOMPARE(world.readLine(), line);
     }
 }
 

@@ -67,12 +67,12 @@ void TestDimPolls::rampAndWords()
     QCOMPARE(world.label(), QStringLiteral("Brightness Level: 0% (dimmed)"));
     QCOMPARE(world.leftWord(), QStringLiteral("3758108672"));
     QVERIFY(!world.enabled());
-    QCOMPARE(ServiceClient::readLine(), DimWorldLines::dark);
+    QCOMPARE(world.readLine(), DimWorldLines::dark);
     world.window->brightnessapply();
     QCOMPARE(world.leftWord(), QStringLiteral("4026531840")); // the words follow the slider
     world.poll();
     QCOMPARE(world.label(), QStringLiteral("Brightness Level: 0% (dimmed)"));
-    QCOMPARE(ServiceClient::readLine(), DimWorldLines::dark);
+    QCOMPARE(world.readLine(), DimWorldLines::dark);
     QVERIFY(!world.wakePending());
 }
 
@@ -87,7 +87,7 @@ void TestDimPolls::wakeIsSentTwice()
     QCOMPARE(world.label(), QStringLiteral("Brightness Level: 100% (Auto dim mode)"));
     for (const QString &line :
          {DimWorldLines::wake, DimWorldLines::wake, DimWorldLines::red, DimWorldLines::red}) {
-        QCOMPARE(ServiceClient::readLine(), line);
+        QCOMPARE(world.readLine(), line);
     }
 }
 

@@ -402,8 +402,8 @@ void TestLighting::resume()
     QFETCH(bool, on);
     TestWindow world;
     startWithColours(world);
-    ServiceClient::readLine(); // the two wake lines of the start
-    ServiceClient::readLine();
+    world.readLine(); // the two wake lines of the start
+    world.readLine();
     if (!on) {
         world.get<QRadioButton>("backlight_off")->click();
     }

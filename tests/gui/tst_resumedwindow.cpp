@@ -163,13 +163,13 @@ void TestResumedWindow::nothingComesBackInPerKeyMode()
     world->writeSettings("backlight_on=true\nbrightlevel=100\nZone1Color=255 0 0\nPerKey=true\n");
     world->construct();
     for (int answer = 0; answer < 3; ++answer) {
-        QCOMPARE(ServiceClient::readLine(), wake);
+        QCOMPARE(world->readLine(), wake);
     }
     world->window->suspendresumeaction();
     world->window->LoadSettings();
     QTest::qWait(1300); // longer than settings wait to be applied
     for (const QString &line : {wake, wake, black, black}) {
-        QCOMPARE(ServiceClient::readLine(), line);
+        QCOMPARE(world->readLine(), line);
     }
 }
 

@@ -24,10 +24,10 @@ void startRed(TestWindow &world)
     world.start();
 }
 
-void takeWakeLines()
+void takeWakeLines(const TestWindow &world)
 {
-    QCOMPARE(ServiceClient::readLine(), wakeLine);
-    QCOMPARE(ServiceClient::readLine(), wakeLine);
+    QCOMPARE(world.readLine(), wakeLine);
+    QCOMPARE(world.readLine(), wakeLine);
 }
 
 } // namespace
@@ -59,7 +59,7 @@ void TestServiceServer::beforeSettingsAreApplied()
     TestWindow world;
     QTest::ignoreMessage(QtCriticalMsg, "The Service Server is running!");
     world.construct();
-    const QByteArray answer = ServiceClient::readAnswer();
+    const QByteArray answer = ServiceClient::readAnswer(5000, world.servicePort());
     QCOMPARE(answer.size(), 96);
     QCOMPARE(answer.left(6).toHex(), QByteArray("005e0000005a"));
     QCOMPARE(ServiceClient::lineOf(answer), wakeLine);
@@ -69,21 +69,21 @@ void TestServiceServer::threeClientsInARow()
 {
     TestWindow world;
     startRed(world);
-    takeWakeLines();
-    QCOMPARE(ServiceClient::readLine(), redLine);
-    QCOMPARE(ServiceClient::readLine(), redLine);
+    takeWakeLines(world);
+    QCOMPARE(world.readLine(), redLine);
+    QCOMPARE(world.readLine(), redLine);
 }
 
 void TestServiceServer::turningOnWakesAgain()
 {
     TestWindow world;
     startRed(world);
-    takeWakeLines();
+    takeWakeLines(world);
     world.get<QRadioButton>("backlight_off")->click();
-    QCOMPARE(ServiceClient::readLine(), offLine);
+    QCOMPARE(world.readLine(), offLine);
     world.get<QRadioButton>("backlight_on")->click();
-    takeWakeLines();
-    QCOMPARE(ServiceClient::readLine(), redLine);
+    takeWakeLines(world);
+    QCOMPARE(world.readLine(), redLine);
 }
 
 void TestServiceServer::offAlsoWithAnEffect()
@@ -93,7 +93,7 @@ void TestServiceServer::offAlsoWithAnEffect()
     world.get<QComboBox>("Combo_Effect")->setCurrentIndex(1);
     world.get<QRadioButton>("backlight_off")->click();
     for (int client = 0; client < 3; ++client) {
-        QCOMPARE(ServiceClient::readLine(), offLine);
+        QCOMPARE(world.readLine(), offLine);
     }
 }
 
@@ -103,7 +103,7 @@ void TestServiceServer::zeroBrightnessWithAnEffect()
     startRed(world);
     world.get<QComboBox>("Combo_Effect")->setCurrentIndex(1);
     world.get<QSlider>("horizontalSlider")->setValue(0);
-    QCOMPARE(ServiceClient::readLine(),
+    QCOMPARE(world.readLine(),
              QStringLiteral("3758108672,3758108672,3758108672,3758108672,268607488"));
 }
 
@@ -111,9 +111,9 @@ void TestServiceServer::effectIsTheFifthField()
 {
     TestWindow world;
     startRed(world);
-    takeWakeLines();
+    takeWakeLines(world);
     world.get<QComboBox>("Combo_Effect")->setCurrentIndex(7);
-    QCOMPARE(ServiceClient::readLine(),
+    QCOMPARE(world.readLine(),
              QStringLiteral("4026597120,4043309056,4060086272,4076863488,2952790016"));
 }
 
@@ -122,13 +122,13 @@ void TestServiceServer::wakeWaitsWhileOff()
     TestWindow world;
     world.writeSettings("backlight_on=false\nbrightlevel=100\nZone1Color=255 0 0\n");
     world.start();
-    QCOMPARE(ServiceClient::readLine(), offLine);
+    QCOMPARE(world.readLine(), offLine);
     QVERIFY(world.window->wakeSequence().wakePending);
     world.get<QRadioButton>("backlight_on")->click();
     world.get<QSlider>("horizontalSlider")->setValue(0);
-    QCOMPARE(ServiceClient::readLine(), offLine);
+    QCOMPARE(world.readLine(), offLine);
     world.get<QSlider>("horizontalSlider")->setValue(100);
-    takeWakeLines();
+    takeWakeLines(world);
 }
 
 void TestServiceServer::lastLineIsKept()
@@ -136,9 +136,9 @@ void TestServiceServer::lastLineIsKept()
     TestWindow world;
     startRed(world);
     QCOMPARE(world.window->lastCommandLine(), QString());
-    takeWakeLines();
+    takeWakeLines(world);
     QCOMPARE(world.window->lastCommandLine(), wakeLine);
-    ServiceClient::readLine();
+    world.readLine();
     QCOMPARE(world.window->lastCommandLine(), redLine);
 }
 
@@ -149,7 +149,7 @@ void TestServiceServer::nobodyToAnswer()
     QVERIFY(QMetaObject::invokeMethod(world.window.get(), "sendFortune"));
     QVERIFY(world.window->wakeSequence().wakePending);
     QCOMPARE(world.window->lastCommandLine(), QString());
-    takeWakeLines();
+    takeWakeLines(world);
 }
 
 void TestServiceServer::manyAtOnce()
@@ -161,7 +161,8 @@ void TestServiceServer::manyAtOnce()
     std::vector<std::unique_ptr<QTcpSocket>> sockets;
     for (int i = 0; i < clients; ++i) {
         sockets.push_back(std::make_unique<QTcpSocket>());
-        sockets.back()->connectToHost(QHostAddress(QStringLiteral("127.0.0.9")), 52316);
+        sockets.back()->connectToHost(QHostAddress(QStringLiteral("127.0.0.9")),
+                                      world.servicePort());
     }
     int wakes = 0;
     int normals = 0;
@@ -181,14 +182,14 @@ void TestServiceServer::clientsThatAreGone()
 {
     TestWindow world;
     startRed(world);
-    takeWakeLines();
+    takeWakeLines(world);
     for (int i = 0; i < 50; ++i) {
         QTcpSocket socket;
-        socket.connectToHost(QHostAddress(QStringLiteral("127.0.0.9")), 52316);
+        socket.connectToHost(QHostAddress(QStringLiteral("127.0.0.9")), world.servicePort());
         QVERIFY(socket.waitForConnected()); // by the system; the program has not seen it yet
         socket.abort();
     }
-    QCOMPARE(ServiceClient::readLine(), redLine);
+    QCOMPARE(world.readLine(), redLine);
     auto *const server = world.window->findChild<QTcpServer *>();
     QTRY_COMPARE(server->findChildren<QTcpSocket *>().size(), 0);
 }
@@ -198,12 +199,12 @@ void TestServiceServer::clientThatTalks()
     TestWindow world;
     startRed(world);
     QTcpSocket socket;
-    socket.connectToHost(QHostAddress(QStringLiteral("127.0.0.9")), 52316);
+    socket.connectToHost(QHostAddress(QStringLiteral("127.0.0.9")), world.servicePort());
     QVERIFY(socket.waitForConnected());
     socket.write("hello");
     QTRY_COMPARE(socket.state(), QAbstractSocket::UnconnectedState);
     QCOMPARE(ServiceClient::lineOf(socket.readAll()), wakeLine);
-    QCOMPARE(ServiceClient::readLine(), wakeLine); // the next is served as ever
+    QCOMPARE(world.readLine(), wakeLine); // the next is served as ever
 }
 
 void TestServiceServer::acceptingGoesOn_data()
@@ -237,17 +238,17 @@ void TestServiceServer::acceptingGoesOn()
         return log.filter(QRegularExpression(QStringLiteral("^Cannot accept a client: "))).size();
     };
     refuse();
-    QCOMPARE(ServiceClient::readLine(), wakeLine);
+    QCOMPARE(world.readLine(), wakeLine);
     QCOMPARE(time.elapsed() >= waitMs, waitsAtOnce);
     QCOMPARE(complaints(), 1);
     refuse(); // Qt's memory of it: somebody came in between
-    QCOMPARE(ServiceClient::readLine(), wakeLine);
+    QCOMPARE(world.readLine(), wakeLine);
     QVERIFY(time.elapsed() < waitMs);
     for (int failure = 0; failure < 3; ++failure) {
         QCoreApplication::processEvents();
         refuse();
     }
-    QCOMPARE(ServiceClient::readLine(), redLine);
+    QCOMPARE(world.readLine(), redLine);
     QVERIFY(time.elapsed() >= waitMs); // one that lasts is waited for, whatever it is
     QCOMPARE(complaints(), 2);
 }
@@ -256,7 +257,8 @@ void TestServiceServer::portTaken()
 {
     TestWindow world;
     QTcpServer other;
-    QVERIFY(other.listen(QHostAddress(QStringLiteral("127.0.0.9")), 52316));
+    QVERIFY(other.listen(QHostAddress(QStringLiteral("127.0.0.9"))));
+    world.endpoint.port = other.serverPort();
     QTest::ignoreMessage(QtCriticalMsg, "Could not start the Service Server");
     startRed(world);
     world.get<QSlider>("horizontalSlider")->setValue(50);

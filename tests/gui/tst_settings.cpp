@@ -399,8 +399,8 @@ void TestSettings::applyingRaisesAWake()
     TestWindow world;
     world.writeSettings(on ? "backlight_on=true\nbrightlevel=100\n" : "backlight_on=false\n");
     MainWindow &window = world.construct();
-    ServiceClient::readLine();
-    ServiceClient::readLine();
+    world.readLine();
+    world.readLine();
     QVERIFY(!window.wakeSequence().wakePending);
     window.delayedApply();
     QCOMPARE(window.wakeSequence().wakePending, on);

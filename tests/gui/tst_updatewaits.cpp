@@ -9,6 +9,12 @@ namespace {
 const QString latestText =
     QStringLiteral("You are running the latest version, there is no update.");
 
+quint16 freePort()
+{
+    QTcpServer server;
+    return server.listen(QHostAddress(QStringLiteral("127.0.0.9"))) ? server.serverPort() : 0;
+}
+
 } // namespace
 
 /// What happens while the window waits for the update server, or for the user's answer.
@@ -52,16 +58,17 @@ void TestUpdateWaits::serviceServerWaitsForTheFirstCheck()
     UpdateWorld world("1.0.4");
     world.server.pieceBytes = 10;
     world.server.pauseMs = 30;
+    world.endpoint.port = freePort();
     bool isThere = true;
     QTimer::singleShot(100, [&] {
         QTcpSocket client;
-        client.connectToHost(QHostAddress(QStringLiteral("127.0.0.9")), 52316);
+        client.connectToHost(QHostAddress(QStringLiteral("127.0.0.9")), world.endpoint.port);
         isThere = client.waitForConnected(500);
     });
     world.construct();
     QVERIFY(!isThere);
     QTcpSocket client;
-    client.connectToHost(QHostAddress(QStringLiteral("127.0.0.9")), 52316);
+    client.connectToHost(QHostAddress(QStringLiteral("127.0.0.9")), world.endpoint.port);
     QVERIFY(client.waitForConnected(5000));
 }
 
@@ -72,8 +79,9 @@ void TestUpdateWaits::servedWhileWaiting()
     world.server.pieceBytes = 1;
     world.server.pauseMs = 10;
     QTcpSocket agent;
-    QTimer::singleShot(
-        50, &agent, [&] { agent.connectToHost(QHostAddress(QStringLiteral("127.0.0.9")), 52316); });
+    QTimer::singleShot(50, &agent, [&] {
+        agent.connectToHost(QHostAddress(QStringLiteral("127.0.0.9")), world.servicePort());
+    });
     window.SetAppVersion();
     QVERIFY(agent.bytesAvailable() > 6);
 }

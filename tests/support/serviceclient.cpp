@@ -5,7 +5,7 @@
 #include <QTcpSocket>
 #include <QTimer>
 
-QByteArray ServiceClient::readAnswer(int timeoutMs)
+QByteArray ServiceClient::readAnswer(int timeoutMs, quint16 port)
 {
     QTcpSocket socket;
     QEventLoop loop;
@@ -16,7 +16,7 @@ QByteArray ServiceClient::readAnswer(int timeoutMs)
         }
     });
     QTimer::singleShot(timeoutMs, &loop, &QEventLoop::quit);
-    socket.connectToHost(QHostAddress(QStringLiteral("127.0.0.9")), 52316);
+    socket.connectToHost(QHostAddress(QStringLiteral("127.0.0.9")), port);
     loop.exec();
     return socket.readAll();
 }

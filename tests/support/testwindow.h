@@ -4,10 +4,12 @@
 #include "tests/support/fakeplatform.h"
 #include "tests/support/fakeprimaryrole.h"
 #include "tests/support/guitest.h"
+#include "tests/support/serviceclient.h"
 #include "ui/mainwindow.h"
 
 #include <QDir>
 #include <QImage>
+#include <QTcpServer>
 #include <QTemporaryDir>
 
 #include <memory>
@@ -57,8 +59,8 @@ public:
     /// Constructs the window; the settings are read but not yet applied.
     MainWindow &construct()
     {
-        window =
-            std::make_unique<MainWindow>(settings, platform, primaryRole, [this] { return clock; });
+        window = std::make_unique<MainWindow>(
+            settings, platform, primaryRole, [this] { return clock; }, endpoint);
         return *window;
     }
 
@@ -70,6 +72,11 @@ public:
         return *window;
     }
 
+    /// Where agents find this window.
+    quint16 servicePort() const { return window->findChild<QTcpServer *>()->serverPort(); }
+    /// What the next agent receives.
+    QString readLine() const { return ServiceClient::readLine(servicePort()); }
+
     template<class Widget> Widget *get(const char *name) const
     {
         return widget<Widget>(*window, name);
@@ -80,6 +87,8 @@ public:
     AppSettings settings;
     FakePlatform platform;
     FakePrimaryRole primaryRole;
+    /// A port that the system chooses, so that windows of other processes are not in the way.
+    ServiceEndpoint endpoint{ServiceEndpoint().address, 0};
     qint64 clock = 1'000'000'000'000;
     std::unique_ptr<MainWindow> window;
 };

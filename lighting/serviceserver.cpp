@@ -1,0 +1,65 @@
+#include "lighting/serviceserver.h"
+
+#include "lighting/commandline.h"
+#include "system/platform.h"
+
+#include <QDebug>
+#include <QHostAddress>
+#include <QTcpSocket>
+#include <QTimer>
+
+#include <utility>
+
+namespace {
+
+/// How long clients wait while the system hands nobody over, for want of handles as a rule.
+constexpr int acceptAgainMs = 250;
+
+} // namespace
+
+ServiceServer::ServiceServer(const ServiceEndpoint &itsEndpoint, Platform &system, QObject *parent)
+    : QTcpServer(parent)
+    , endpoint(itsEndpoint)
+    , platform(system)
+{
+    connect(this, &QTcpServer::acceptError, this, &ServiceServer::acceptAgain);
+}
+
+void ServiceServer::start()
+{
+    if (listen(QHostAddress(QString::fromLatin1(endpoint.address)), endpoint.port)) {
+        platform.lengthenListenQueue(socketDescriptor());
+        qCritical("The Service Server is running!");
+    } else {
+        qCritical("Could not start the Service Server");
+    }
+}
+
+void ServiceServer::acceptAgain(QAbstractSocket::SocketError error)
+{
+    // Qt stops accepting at the first failure, be it one client that left too early, and from then
+    // on tells of that failure whenever the queue is empty.
+    const bool isNews = !std::exchange(clientAccepted, false);
+    const bool again = isNews && std::exchange(acceptingFailed, true);
+    if (isNews && !again) {
+        qDebug().noquote() << "Cannot accept a client:" << errorString();
+    }
+    const bool wait = isNews && (again || error == QAbstractSocket::SocketResourceError);
+    QTimer::singleShot(wait ? acceptAgainMs : 0, this, &QTcpServer::resumeAccepting);
+}
+
+void ServiceServer::answer(const std::function<QString()> &line)
+{
+    QTcpSocket *const client = nextPendingConnection();
+    if (client == nullptr) {
+        return;
+    }
+    clientAccepted = true;
+    acceptingFailed = false;
+    connect(client, SIGNAL(disconnected()), client, SLOT(deleteLater()));
+    client->write(frameLine(line()));
+    client->disconnectFromHost();
+    if (client->state() == QAbstractSocket::UnconnectedState) {
+        client->deleteLater(); // already gone, so disconnected() may have been missed
+    }
+}

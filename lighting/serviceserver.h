@@ -1,0 +1,39 @@
+#pragma once
+
+#include "lighting/serviceendpoint.h"
+
+#include <QAbstractSocket>
+#include <QTcpServer>
+
+#include <functional>
+
+class Platform;
+
+/// The Service Server: whoever connects is given one line and sent away. Which line, the owner
+/// says, for one client at each newConnection().
+class ServiceServer : public QTcpServer
+{
+    Q_OBJECT
+
+public:
+    /// @param platform not owned; must live longer than the server
+    ServiceServer(const ServiceEndpoint &endpoint, Platform &platform, QObject *parent);
+
+    /// Listens from now on, and says in the log whether that could be had. Without it the program
+    /// runs on, and agents find nobody.
+    void start();
+
+    /// Sends the frame of a line to the client that has waited longest and closes its connection.
+    /// Reads nothing from it and waits for nothing.
+    /// @param line asked for once; not at all where nobody waits
+    void answer(const std::function<QString()> &line);
+
+private:
+    /// Goes on accepting clients after the system refused to hand one over.
+    void acceptAgain(QAbstractSocket::SocketError error);
+
+    ServiceEndpoint endpoint;
+    Platform &platform;
+    bool clientAccepted = false;  ///< since accepting last failed
+    bool acceptingFailed = false; ///< since the last client; the log has been told
+};
