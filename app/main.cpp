@@ -86,9 +86,12 @@ int main(int argc, char *argv[])
                    QDir::toNativeSeparators(QCoreApplication::applicationFilePath()));
     const bool startHidden = settings.read(SettingKeys::startHidden);
 
-    const bool stayHidden = startHidden && !startedAgain;
-    // No flash, and nothing left to do for a window manager when a later start shows the window.
-    window.setAttribute(Qt::WA_DontShowOnScreen, stayHidden);
+    const bool stayHidden = startHidden && !startedAgain && !window.wasAskedFor();
+    if (stayHidden) {
+        // No flash, and nothing left to do for a window manager when a later start shows the
+        // window. One that was closed meanwhile has set this itself.
+        window.setAttribute(Qt::WA_DontShowOnScreen);
+    }
     window.show();
     window.raise();
     window.setFocus(Qt::OtherFocusReason);

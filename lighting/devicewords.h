@@ -33,6 +33,13 @@ constexpr quint32 packWord(quint8 red, quint8 green, quint8 blue, Zone zone)
            | (static_cast<quint32>(blue) << 16) | (static_cast<quint32>(red) << 8) | green;
 }
 
+/// What a word does to the light of its zone.
+constexpr ColourComponents wordColour(quint32 word)
+{
+    return {static_cast<int>(word >> 8 & 0xFF), static_cast<int>(word & 0xFF),
+            static_cast<int>(word >> 16 & 0xFF)};
+}
+
 /// The zone with its light off.
 constexpr quint32 blackWord(Zone zone)
 {

@@ -44,6 +44,10 @@ public:
     /// Ends that. A failed write is silent.
     virtual void removeAutostartValue() = 0;
 
+    /// The folder that the program lies in, and beside it what its installation has put there;
+    /// absolute.
+    virtual QString programFolder() const = 0;
+
     /// The log-in name of the user whose process this is; nothing when it cannot be told.
     virtual std::optional<QString> userName() const = 0;
 

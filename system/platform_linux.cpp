@@ -65,6 +65,8 @@ public:
 
     void removeAutostartValue() override { QFile::remove(autostartFile()); }
 
+    QString programFolder() const override { return QCoreApplication::applicationDirPath(); }
+
     std::optional<QString> userName() const override
     {
         const passwd *const user = ::getpwuid(::geteuid());

@@ -2,6 +2,7 @@
 
 #include "system/segmentlock.h"
 
+#include <QCoreApplication>
 #include <QSettings>
 
 #include <array>
@@ -58,6 +59,8 @@ public:
     {
         QSettings(runKey, QSettings::NativeFormat).remove(runValue);
     }
+
+    QString programFolder() const override { return QCoreApplication::applicationDirPath(); }
 
     std::optional<QString> userName() const override
     {

@@ -55,6 +55,9 @@ public:
     /// What the last connection received; empty before the first.
     const QString &lastCommandLine() const { return commandLine; }
 
+    /// Whether the user has asked to see the window, and not hidden it again.
+    bool wasAskedFor() const { return askedFor; }
+
     /// Keeps nothing back.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -158,6 +161,7 @@ public slots:
 protected:
     bool event(QEvent *event) override;
     void childEvent(QChildEvent *event) override;
+    void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -165,6 +169,8 @@ protected:
 
 private:
     void restoreWindowGeometry();
+    void storeWindowPlace();
+    void comeBackToAScreen();
     void enableStripePage(bool enabled);
     void applyStoredEffect();
     void loadZoneColours();
@@ -195,6 +201,7 @@ private:
     void offerUpdate();
     void offerElevation(const Message &question);
     void startDetached(const QString &program, const QStringList &arguments);
+    QString besideProgram(const char *path) const;
     void startPerKeyApplication();
     void enterPerKeyMode();
     void leavePerKeyMode();
@@ -232,6 +239,8 @@ private:
     bool manualCheck = false;
     bool checkingVersion = false;
     bool wasClosed = false;
+    bool askedFor = false;
+    bool sizesAdapted = false;
 
     /// What the open picker edits: a kind of SetZoneColor().
     qint32 pickTarget = 0;

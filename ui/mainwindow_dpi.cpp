@@ -3,9 +3,11 @@
 #include "ui_mainwindow.h"
 
 #include "ui/dpibands.h"
+#include "ui/windowplace.h"
 
 #include <QApplication>
 #include <QDesktopWidget>
+#include <QGuiApplication>
 #include <QLayout>
 #include <QScreen>
 
@@ -51,6 +53,7 @@ void fixSize(QWidget &button, int edge)
 
 void MainWindow::DPIfixes()
 {
+    const QSize before = size();
     const DpiBand &band = dpiBand(QApplication::desktop()->logicalDpiX());
     if (band.controlSize != 0) {
         fixSize(*ui->minimizeButton, band.controlSize);
@@ -70,6 +73,13 @@ void MainWindow::DPIfixes()
         const QSize available = screen()->availableSize();
         resize(minimumSizeHint().boundedTo(available).expandedTo(size()));
     }
+    if (size() != before) {
+        // Grown to the right and down, it may have left the screen there.
+        const QScreen *const screen = QGuiApplication::screenAt(geometry().center());
+        const QScreen *const home = screen ? screen : QGuiApplication::primaryScreen();
+        setGeometry(WindowPlace::movedInto(geometry(), home->availableGeometry()));
+    }
+    sizesAdapted = true;
 }
 
 void MainWindow::enlargeForBand(const DpiBand &band)

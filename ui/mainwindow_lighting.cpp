@@ -44,7 +44,10 @@ void MainWindow::SetZoneColor(int kind, const QString &colour)
         rememberSingleColour(true);
     } else if (kind == stripeKind) {
         setZoneWord(Zone::Stripe, colour);
-        tintPicture(static_cast<int>(KeyboardPicture::Stripe), colour);
+        // Unlike those of the keyboard, its picture shows what the word holds.
+        const ColourComponents part = wordColour(lighting.stripeWord.toUInt());
+        setKeyboardImageColor(part.red, part.green, part.blue, tintAlpha,
+                              static_cast<int>(KeyboardPicture::Stripe));
     }
 }
 
@@ -219,5 +222,8 @@ void MainWindow::suspendresumeaction()
     if (settings.read(SettingKeys::backlightOn)) {
         wake.wakePending = true;
     }
-    QTimer::singleShot(reloadDelayMs, this, SLOT(LoadSettings()));
+    QTimer::singleShot(reloadDelayMs, this, [this] {
+        storeWindowPlace(); // else the window would go to where it was when the program last ended
+        LoadSettings();
+    });
 }

@@ -60,5 +60,6 @@ void MainWindow::installmof()
     run(registration, "regsvr32 /s C:/Windows/SysWOW64/clevomof.dll");
     platform.setFirmwareInterfaceLibrary(QStringLiteral("syswow64\\clevomof.dll"));
     run(startService, "net start winmgmt");
+    storeWindowPlace(); // which is read as well
     LoadSettings();
 }

@@ -7,6 +7,7 @@
 #include "lighting/idletimes.h"
 #include "system/platform.h"
 #include "ui/darkstyle.h"
+#include "ui/windowplace.h"
 #include "ui/zonepages.h"
 
 #include <QCoreApplication>
@@ -65,8 +66,10 @@ void MainWindow::restoreWindowGeometry()
     restoreState(settings.read(SettingKeys::mainWindowState), 0);
     const QScreen &screen = *QGuiApplication::primaryScreen();
     if (!restored) { // none stored, or none that can be read
-        setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, firstWindowSize,
-                                        screen.availableGeometry()));
+        setGeometry(
+            WindowPlace::movedInto(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter,
+                                                       firstWindowSize, screen.availableGeometry()),
+                                   screen.availableGeometry()));
     }
     // A damaged one can be read and still be thousands of screens wide.
     resize(size().boundedTo(screen.virtualSize()));
@@ -148,6 +151,11 @@ void MainWindow::loadZoneColours()
 }
 
 void MainWindow::ShutdownQuit()
+{
+    storeWindowPlace();
+}
+
+void MainWindow::storeWindowPlace()
 {
     settings.write(SettingKeys::mainWindowGeometry, saveGeometry());
     settings.write(SettingKeys::mainWindowState, saveState(0));

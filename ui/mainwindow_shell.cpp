@@ -3,6 +3,7 @@
 #include "ui_mainwindow.h"
 
 #include "system/platform.h"
+#include "ui/windowplace.h"
 
 #include <QAction>
 #include <QApplication>
@@ -13,6 +14,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QMouseEvent>
+#include <QScreen>
 #include <QTextStream>
 
 #include <cstdio>
@@ -41,6 +43,7 @@ void MainWindow::show_hide(QSystemTrayIcon::ActivationReason reason)
         return;
     }
     if (isVisible()) {
+        askedFor = false;
         hide();
     } else if (ui->UsePerKeyApp->isChecked()) {
         startPerKeyApplication();
@@ -51,6 +54,7 @@ void MainWindow::show_hide(QSystemTrayIcon::ActivationReason reason)
 
 void MainWindow::ShowInterface()
 {
+    askedFor = true;
     show();
     raise();
     setFocus(Qt::OtherFocusReason);
@@ -115,8 +119,39 @@ void MainWindow::childEvent(QChildEvent *event)
     }
 }
 
+void MainWindow::showEvent(QShowEvent *event)
+{
+    if (!event->spontaneous()) {
+        if (!sizesAdapted) {
+            DPIfixes(); // somebody asks for the window, or it asks something, before it is finished
+        }
+        comeBackToAScreen();
+    }
+    QMainWindow::showEvent(event);
+}
+
+void MainWindow::comeBackToAScreen()
+{
+    QVector<QRect> available;
+    const auto screens = QGuiApplication::screens();
+    for (const QScreen *screen : screens) {
+        available.append(screen->availableGeometry());
+    }
+    if (!WindowPlace::isOnAScreen(geometry(), available)) {
+        setGeometry(WindowPlace::movedInto(geometry(), available.constFirst()));
+    }
+}
+
 void MainWindow::closeEvent(QCloseEvent *event)
 {
+    // By the window manager: a key, or the task bar. "Exit" and the end of the session, which is
+    // not to be held up, come otherwise.
+    if (event->spontaneous() && ui->Check_CloseHides->isChecked() && !qApp->isSavingSession()) {
+        event->ignore();
+        askedFor = false;
+        hide();
+        return;
+    }
     QMainWindow::closeEvent(event);
     wasClosed = true;
     emit closed();

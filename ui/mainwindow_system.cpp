@@ -18,16 +18,8 @@ constexpr const char *perKeyCommand =
     "explorer.exe shell:AppsFolder\\CLEVOCO.LedKeyboardSetting_6h6z29zh29qx0!App";
 
 // Placed beside the program by its installation.
-constexpr const char *perKeyInstaller = "PERKEY\\RunAsAdministrator.bat";
+constexpr const char *perKeyInstaller = "PERKEY/RunAsAdministrator.bat";
 constexpr const char *uninstaller = "Uninstall.exe";
-
-/// A program of the installation, in a form that every system looks up in the current directory
-/// and nowhere else.
-QString besideProgram(const char *path)
-{
-    return QStringLiteral("./")
-           + QString::fromLatin1(path).replace(QLatin1Char('\\'), QLatin1Char('/'));
-}
 
 } // namespace
 
@@ -44,6 +36,12 @@ void MainWindow::startDetached(const QString &program, const QStringList &argume
     process->setProgram(program);
     process->setArguments(arguments);
     process->startDetached();
+}
+
+QString MainWindow::besideProgram(const char *path) const
+{
+    // Absolute: what lies in the current directory may be anybody's, and it is to run with rights.
+    return platform.programFolder() + QLatin1Char('/') + QLatin1String(path);
 }
 
 void MainWindow::startPerKeyApplication()
@@ -82,6 +80,9 @@ void MainWindow::on_UsePerKeyApp_clicked()
     if (!ui->UsePerKeyApp->isChecked()) {
         settings.write(SettingKeys::perKey, false);
         leavePerKeyMode();
+        if (loadingSettings) {
+            delayedApply(); // as after a start in the mode: nothing has been applied yet
+        }
     } else if (IsAppRunningAsAdminMode() != 0) {
         enterPerKeyMode();
         settings.write(SettingKeys::perKey, true);

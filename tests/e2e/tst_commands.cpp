@@ -69,6 +69,7 @@ private slots:
     void uninstaller();
     void uninstallerIsMissing();
     void perKeyInstaller();
+    void installationIsBesideTheProgram();
     void perKeyInstallerNeedsRights();
     void perKeyApplicationByButton();
     void perKeyApplicationByTray();
@@ -237,7 +238,12 @@ void TestCommands::uninstallerIsMissing()
     QDir().mkpath(QStringLiteral("elsewhere"));
     const StandIns others(QStringLiteral("elsewhere"));
     others.add(QStringLiteral("Uninstall.exe"));
+    world.platform.installation = QDir::currentPath();
     world.start();
+    world.get<QAbstractButton>("pushButton_3")->click();
+    QTest::qWait(500);
+    QCOMPARE(others.runs(), QStringList());
+    QDir::setCurrent(QStringLiteral("elsewhere"));
     world.get<QAbstractButton>("pushButton_3")->click();
     QTest::qWait(500);
     QCOMPARE(others.runs(), QStringList());
@@ -253,6 +259,23 @@ void TestCommands::perKeyInstaller()
     QCOMPARE(world.standIns->runs(), QStringList{QStringLiteral("RunAsAdministrator.bat")});
     QCOMPARE(world.standIns->folderOfRun(0), QDir::currentPath());
     QCOMPARE(world.stored(SettingKeys::perKey), QStringLiteral("true"));
+}
+
+void TestCommands::installationIsBesideTheProgram()
+{
+    CommandWorld world;
+    const QString batch = QStringLiteral("PERKEY/RunAsAdministrator.bat");
+    world.standIns->add(QStringLiteral("Uninstall.exe"));
+    world.standIns->addBatch(batch);
+    world.platform.installation = QDir::currentPath();
+    world.start();
+    QDir().mkpath(QStringLiteral("elsewhere"));
+    QDir::setCurrent(QStringLiteral("elsewhere"));
+    world.get<QAbstractButton>("UsePerKeyApp")->click();
+    QCOMPARE(world.standIns->runs(), QStringList{QStringLiteral("RunAsAdministrator.bat")});
+    world.get<QAbstractButton>("pushButton_3")->click();
+    QTRY_COMPARE(world.standIns->runs().size(), 2);
+    QCOMPARE(world.standIns->runs().constLast(), QStringLiteral("Uninstall"));
 }
 
 void TestCommands::perKeyInstallerNeedsRights()

@@ -17,6 +17,8 @@
 
 namespace {
 
+/// Of a copy of the program, below the current directory; a name that needs care.
+const QString ownFolder = QString::fromUtf8("Program Files \xc3\xa4\xe2\x82\xac");
 const QString updateTitle = QStringLiteral("Update Information");
 
 /// Whether the screen shows a box with this title.
@@ -116,7 +118,7 @@ void TestProgramRights::start(bool elevated, const QString &path)
 QString TestProgramRights::copyProgram() const
 {
     const QDir from(QFileInfo(executable).path());
-    const QDir to(folder->filePath(QString::fromUtf8("Program Files \xc3\xa4\xe2\x82\xac")));
+    const QDir to(folder->filePath(ownFolder));
     QDirIterator files(from.path(), QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         const QString path = files.next();
@@ -271,11 +273,16 @@ void TestProgramRights::elevationOfAProgramThatIsGone()
     QCOMPARE(program->process.exitCode(), 0);
 }
 
+/// The one beside the program, whatever lies in the folder that the program was started in.
 void TestProgramRights::uninstall()
 {
     standIns->add(QStringLiteral("Uninstall.exe"));
-    start(true);
+    start(true, copyProgram());
     waitUntilShown();
+    click("pushButton_3");
+    QTest::qWait(500);
+    QCOMPARE(standIns->runs(), QStringList());
+    standIns->add(ownFolder + QStringLiteral("/Uninstall.exe"));
     click("pushButton_3");
     QTRY_COMPARE(standIns->runs(), QStringList{QStringLiteral("Uninstall")});
     QCOMPARE(program->process.state(), QProcess::Running);
@@ -295,10 +302,19 @@ void TestProgramRights::uninstallWithoutRights()
 
 void TestProgramRights::perKeyMode()
 {
-    standIns->addBatch(QStringLiteral("PERKEY/RunAsAdministrator.bat"));
+    const QString copy = copyProgram();
+    const QString batch = QStringLiteral("PERKEY/RunAsAdministrator.bat");
+    standIns->addBatch(batch);
     standIns->add(QStringLiteral("explorer.exe"));
-    start(true);
+    start(true, copy);
     waitUntilShown();
+    click("UsePerKeyApp");
+    QTRY_COMPARE(ProgramProcess::stored("PerKey"), QStringLiteral("true"));
+    QTest::qWait(500);
+    QCOMPARE(standIns->runs(), QStringList()); // that of another folder
+    standIns->addBatch(ownFolder + QLatin1Char('/') + batch);
+    click("UsePerKeyApp");
+    QTRY_COMPARE(ProgramProcess::stored("PerKey"), QStringLiteral("false"));
     click("UsePerKeyApp");
     QTRY_COMPARE(standIns->runs(), QStringList{QStringLiteral("RunAsAdministrator.bat")});
     QCOMPARE(ProgramProcess::stored("PerKey"), QStringLiteral("true"));

@@ -1,5 +1,6 @@
 #include "tests/support/programprocess.h"
 #include "tests/support/programwindow.h"
+#include "tests/support/serviceclient.h"
 #include "tests/support/testsystem.h"
 
 #include <QTest>
@@ -11,6 +12,8 @@ class TestWindowFrame : public QObject
 
 private slots:
     void minimisedAndRestoredFromOutside();
+    void closedFromOutside_data();
+    void closedFromOutside();
 
 private:
     static QByteArray property(const char *name, qulonglong window)
@@ -41,6 +44,35 @@ void TestWindowFrame::minimisedAndRestoredFromOutside()
     QTRY_VERIFY(property("WM_STATE", window).contains("Normal"));
     QTRY_COMPARE(ProgramWindow::geometry(), place);
     QCOMPARE(program.process.state(), QProcess::Running);
+}
+
+void TestWindowFrame::closedFromOutside_data()
+{
+    QTest::addColumn<bool>("closeHides");
+    QTest::newRow("ends the program") << false;
+    QTest::newRow("hides the window") << true;
+}
+
+/// By the window manager's key, which is what the task bar's "Close window" comes to as well.
+void TestWindowFrame::closedFromOutside()
+{
+    QFETCH(bool, closeHides);
+    ProgramProcess program;
+    ProgramProcess::writeSettings(closeHides ? "minimize_close=true\n" : "minimize_close=false\n");
+    QVERIFY(program.startAndServe());
+    QTRY_VERIFY(ProgramWindow::shown() != 0);
+    ProgramWindow::input({QStringLiteral("windowactivate"), QStringLiteral("--sync"),
+                          QString::number(ProgramWindow::shown())});
+    ProgramWindow::press({QStringLiteral("alt+F4")});
+    QTRY_COMPARE(ProgramWindow::shown(), 0ULL);
+    if (!closeHides) {
+        QTRY_COMPARE(program.process.state(), QProcess::NotRunning);
+        QCOMPARE(program.process.exitCode(), 0);
+        return;
+    }
+    QTest::qWait(1000); // it would have ended by now
+    QCOMPARE(program.process.state(), QProcess::Running);
+    QVERIFY(!ServiceClient::readAnswer().isEmpty());
 }
 
 QTEST_MAIN(TestWindowFrame)

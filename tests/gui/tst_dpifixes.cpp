@@ -3,6 +3,7 @@
 #include "tests/support/testwindow.h"
 #include "ui/darkstyle.h"
 #include "ui/dpibands.h"
+#include "updateworld.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -91,6 +92,8 @@ private slots:
     void pickerInTheMiddle();
     void showsEverything_data();
     void showsEverything();
+    void firstWindowIsOnTheScreen();
+    void updateAtStartShowsEverything();
 
 private:
     static void compareMinimum(const TestWindow &world, const char *name, const QSize &size)
@@ -320,6 +323,42 @@ void TestDpiFixes::showsEverything()
     // The bars' heights are given, whatever the font that the desktop has.
     const bool tight = expected().title >= 52;
     QCOMPARE(clippedWidgets(window, tight).join(QStringLiteral("; ")), QString());
+}
+
+void TestDpiFixes::firstWindowIsOnTheScreen()
+{
+    const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
+    const QRect window = world->window->geometry();
+    QVERIFY(available.contains(window.topLeft()));
+    QVERIFY(window.right() <= available.right() || window.left() == available.left());
+    QVERIFY(window.bottom() <= available.bottom() || window.top() == available.top());
+}
+
+/// An update is offered on the window before the start is through.
+void TestDpiFixes::updateAtStartShowsEverything()
+{
+    world.reset();
+    UpdateWorld update("99.0");
+    BoxWatcher watcher(QMessageBox::No);
+    QSize minimum;
+    QStringList clipped;
+    QRect place;
+    watcher.look = [&](const QMessageBox &box) {
+        const QWidget &window = *box.parentWidget();
+        QVERIFY(window.isVisible());
+        minimum = window.minimumSize();
+        place = window.geometry();
+        clipped = clippedWidgets(window, expected().title >= 52);
+    };
+    MainWindow &window = update.construct();
+    QCOMPARE(watcher.seen.size(), 1);
+    QCOMPARE(minimum, expected().window);
+    QCOMPARE(place, window.geometry());
+    if (expected().window == QSize(630, 630)
+        || window.screen()->availableSize().width() < window.minimumSizeHint().width()) {
+        return; // too small for the font, or for the display
+    }
+    QCOMPARE(clipped.join(QStringLiteral("; ")), QString());
 }
 
 // Unlike QTEST_MAIN, leaves the style's own lengths to the DPI.

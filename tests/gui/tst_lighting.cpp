@@ -31,6 +31,8 @@ private slots:
     void getColour();
     void zoneKinds_data();
     void zoneKinds();
+    void stripeTintTakesMaskedChannels_data();
+    void stripeTintTakesMaskedChannels();
     void unknownKindsChangeNothing();
     void sliderIsStoredAndAppliedLater();
     void sliderWhileOff();
@@ -129,6 +131,29 @@ void TestLighting::zoneKinds()
         QVERIFY(want.alpha() == 0 || qAbs(got.green() - want.green()) <= 8);
         QVERIFY(want.alpha() == 0 || qAbs(got.blue() - want.blue()) <= 8);
     }
+}
+
+void TestLighting::stripeTintTakesMaskedChannels_data()
+{
+    QTest::addColumn<QString>("colour");
+    QTest::addColumn<QColor>("tint");
+    QTest::newRow("above 255") << QStringLiteral("300 128 255") << QColor(44, 128, 255, 30);
+    QTest::newRow("negative") << QStringLiteral("-1 128 255") << QColor(0, 128, 255, 30);
+}
+
+/// The stripe's picture shows what its word holds, other than those of the keyboard.
+void TestLighting::stripeTintTakesMaskedChannels()
+{
+    QFETCH(QString, colour);
+    QFETCH(QColor, tint);
+    TestWindow world;
+    startWithColours(world);
+    world.window->SetZoneColor(5, colour);
+    const QColor shown = shownColour(*world.get<QLabel>("stripe_led"));
+    QCOMPARE(shown.alpha(), tint.alpha());
+    QVERIFY(qAbs(shown.red() - tint.red()) <= 8);
+    QVERIFY(qAbs(shown.green() - tint.green()) <= 8);
+    QVERIFY(qAbs(shown.blue() - tint.blue()) <= 8);
 }
 
 void TestLighting::unknownKindsChangeNothing()

@@ -1,3 +1,4 @@
+#include "lighting/devicewords.h"
 #include "tests/support/boxwatcher.h"
 #include "tests/support/testwindow.h"
 #include "ui/darkstyle.h"
@@ -5,6 +6,7 @@
 #include <QCheckBox>
 #include <QProcess>
 #include <QRadioButton>
+#include <QSlider>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
@@ -43,6 +45,7 @@ private slots:
     void leaving_data();
     void leaving();
     void leavingAfterAStartInTheMode();
+    void leavingAppliesOnce();
     void notElevated_data();
     void notElevated();
     void tabsAreLaidOutAnew();
@@ -116,8 +119,9 @@ void TestPerKey::leaving()
 void TestPerKey::leavingAfterAStartInTheMode()
 {
     TestWindow world;
-    world.writeSettings("PerKey=true\n");
-    world.construct();
+    world.writeSettings("PerKey=true\nbacklight_on=true\nbrightlevel=80\n"
+                        "Zone1Color=255 0 0\nZone2Color=0 255 0\nZone3Color=0 0 255\n");
+    MainWindow &window = world.construct();
     QCOMPARE(visiblePages(world), QVector<int>{3});
     QCOMPARE(world.get<QTabWidget>("tabWidget_2")->currentIndex(), 3);
     world.get<QCheckBox>("UsePerKeyApp")->click();
@@ -125,6 +129,34 @@ void TestPerKey::leavingAfterAStartInTheMode()
     for (const char *name : replacedControls) {
         QVERIFY2(world.get<QWidget>(name)->isEnabled(), name);
     }
+    // What was stored is applied: nothing has been since the start.
+    auto *const slider = world.get<QSlider>("horizontalSlider");
+    QCOMPARE(slider->value(), 80);
+    QVERIFY(world.get<QRadioButton>("backlight_on")->isChecked());
+    QCOMPARE(window.lightingState().leftWord, wordText(0xF000CC00));
+    const QString wake = QStringLiteral("3758616583,3758616583,3758616583,3758616583,0");
+    QCOMPARE(world.readLine(), wake);
+    QCOMPARE(world.readLine(), wake);
+    QVERIFY(world.readLine().startsWith(wordText(0xF000CC00)));
+    slider->setValue(81);
+    window.brightnessapply();
+    QCOMPARE(window.lightingState().leftWord, wordText(0xF000CE00));
+    QCOMPARE(world.stored(SettingKeys::brightLevel), QStringLiteral("81"));
+}
+
+/// Where the lighting was at work before the mode, it only goes on.
+void TestPerKey::leavingAppliesOnce()
+{
+    TestWindow world;
+    world.platform.elevated = true;
+    world.writeSettings("backlight_on=true\nbrightlevel=80\n");
+    world.start();
+    auto *const box = world.get<QCheckBox>("UsePerKeyApp");
+    box->click();
+    world.get<QSlider>("horizontalSlider")->setValue(40); // as the companion does
+    world.writeSettings("backlight_on=true\nbrightlevel=10\n");
+    box->click();
+    QCOMPARE(world.get<QSlider>("horizontalSlider")->value(), 40);
 }
 
 void TestPerKey::notElevated_data()

@@ -51,6 +51,8 @@ private slots:
     void settingsComeBack();
     void effectComesBack_data();
     void effectComesBack();
+    void placeStays_data();
+    void placeStays();
     void nothingComesBackInPerKeyMode();
     void windowsLifeIsTheNoticesLife();
 
@@ -152,6 +154,40 @@ void TestResumedWindow::effectComesBack()
     world->get<QComboBox>("Combo_Effect")->setCurrentIndex(whileLoading);
     world->window->delayedApply();
     QCOMPARE(effectLooks(*world), afterStart);
+}
+
+void TestResumedWindow::placeStays_data()
+{
+    QTest::addColumn<bool>("perKey");
+    QTest::newRow("own lighting") << false;
+    QTest::newRow("per-key mode") << true;
+}
+
+/// The settings are read anew, but where the window was when the program last ended is long past.
+void TestResumedWindow::placeStays()
+{
+    QFETCH(bool, perKey);
+    const QRect then(37, 53, 700, 660);
+    const QRect now(211, 97, 720, 690);
+    {
+        MainWindow &before = world->construct();
+        before.setGeometry(then);
+        before.ShutdownQuit();
+        world->window.reset(); // before the next one listens for the notice
+    }
+    if (perKey) {
+        writeFile(world->settings.settingsIni(),
+                  readFile(world->settings.settingsIni()) + "PerKey=true\n");
+    }
+    MainWindow &window = world->construct();
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QTRY_COMPARE(window.geometry(), then);
+    window.setGeometry(now);
+    QTRY_COMPARE(window.geometry(), now);
+    world->platform.resumeNotice();
+    QTest::qWait(2500); // until everything is applied again
+    QCOMPARE(window.geometry(), now);
 }
 
 /// The keyboard is another application's, and its colours are not told again.

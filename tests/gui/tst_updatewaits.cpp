@@ -31,6 +31,8 @@ private slots:
     void closedWhileWaiting();
     void closedWhileConstructing();
     void closedWhileAsking();
+    void askedForWhileConstructing_data();
+    void askedForWhileConstructing();
 };
 
 void TestUpdateWaits::initTestCase()
@@ -166,6 +168,42 @@ void TestUpdateWaits::closedWhileAsking()
     watchdog.start(5000);
     window.show();
     QCOMPARE(QCoreApplication::exec(), 0);
+}
+
+void TestUpdateWaits::askedForWhileConstructing_data()
+{
+    QTest::addColumn<int>("doubleClicks");
+    QTest::addColumn<bool>("byMenu");
+    QTest::addColumn<bool>("askedFor");
+    QTest::newRow("nobody") << 0 << false << false;
+    QTest::newRow("a double click") << 1 << false << true;
+    QTest::newRow("shown and hidden again") << 2 << false << false;
+    QTest::newRow("Show Interface") << 0 << true << true;
+}
+
+/// Whoever asks for the window before it is finished finds it with all its sizes, and keeps it.
+void TestUpdateWaits::askedForWhileConstructing()
+{
+    QFETCH(int, doubleClicks);
+    QFETCH(bool, byMenu);
+    UpdateWorld world("1.0.4");
+    world.server.pieceBytes = 10;
+    world.server.pauseMs = 30;
+    QTimer::singleShot(60, qApp, [&] {
+        const auto windows = QApplication::topLevelWidgets();
+        for (QWidget *candidate : windows) {
+            auto *const window = qobject_cast<MainWindow *>(candidate);
+            for (int i = 0; window && i < doubleClicks; ++i) {
+                window->show_hide(QSystemTrayIcon::DoubleClick);
+            }
+            if (window && byMenu) {
+                window->ShowInterface();
+            }
+        }
+    });
+    const MainWindow &window = world.construct();
+    QTEST(window.wasAskedFor(), "askedFor");
+    QCOMPARE(window.isVisible(), window.wasAskedFor());
 }
 
 QTEST_MAIN(TestUpdateWaits)

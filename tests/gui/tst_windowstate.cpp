@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QLabel>
 #include <QNetworkProxy>
+#include <QScreen>
 #include <QTabWidget>
 #include <QTest>
 
@@ -22,6 +23,9 @@ private slots:
     void title();
     void noBranding();
     void geometryIsSavedAndRestored();
+    void comesBackFromALostScreen_data();
+    void comesBackFromALostScreen();
+    void staysHalfOffTheScreen();
 };
 
 void TestWindowState::stripePageFollowsItsOption()
@@ -133,6 +137,45 @@ void TestWindowState::geometryIsSavedAndRestored()
     QVERIFY(world.stored(SettingKeys::mainWindowState) != QStringLiteral("(none)"));
 
     QCOMPARE(world.construct().geometry(), QRect(37, 53, 700, 660));
+}
+
+void TestWindowState::comesBackFromALostScreen_data()
+{
+    QTest::addColumn<QPoint>("lost");
+    QTest::newRow("to the right") << QPoint(9000, 100);
+    QTest::newRow("above") << QPoint(100, -5000);
+}
+
+/// A screen that goes takes its place along, also while the window is hidden.
+void TestWindowState::comesBackFromALostScreen()
+{
+    QFETCH(QPoint, lost);
+    TestWindow world;
+    MainWindow &window = world.start();
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    window.hide();
+    window.move(lost);
+    window.ShowInterface();
+    const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
+    QVERIFY(available.contains(window.geometry()));
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(available.contains(window.geometry()));
+}
+
+void TestWindowState::staysHalfOffTheScreen()
+{
+    TestWindow world;
+    MainWindow &window = world.start();
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const QPoint half(-300, 200);
+    window.move(half);
+    QTRY_COMPARE(window.pos(), half);
+    window.hide();
+    window.ShowInterface();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCOMPARE(window.pos(), half);
 }
 
 QTEST_MAIN(TestWindowState)

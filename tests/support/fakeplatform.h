@@ -2,6 +2,7 @@
 
 #include "system/platform.h"
 
+#include <QDir>
 #include <QStringList>
 #include <QVector>
 
@@ -21,6 +22,7 @@ public:
     }
     void setAutostartValue(const QString &path) override { autostart = path; }
     void removeAutostartValue() override { autostart.reset(); }
+    QString programFolder() const override { return installation.value_or(QDir::currentPath()); }
     std::optional<QString> userName() const override { return user; }
     std::shared_ptr<void> acquireLock(const QString &name, int timeoutMs) override
     {
@@ -91,6 +93,7 @@ public:
 
     // What the system is like
     std::optional<QString> autostart;
+    std::optional<QString> installation; ///< the program's folder, if not the current directory
     std::optional<QString> user = QStringLiteral("somebody");
     KeyPresses presses;                ///< seen by one poll
     std::function<void()> whilePolled; ///< happens during each poll, before it has its answer
