@@ -69,6 +69,25 @@ class Trial:
             self.output = done.stdout[-4000:]
         return done.returncode == 0
 
+    def spare_form_users(self):
+        """After a change of the form that leaves its members alone, those that build the form are
+        compiled anew, not those that use it."""
+        headers = [str(header) for header in self.build.glob("*autogen/include/ui_*.h")]
+        if not self.ninja("lumikey_ui_autogen"):
+            return
+        deps = subprocess.run(["ninja", "-C", self.build, "-t", "deps"], capture_output=True,
+                              text=True, check=True).stdout
+        spared = []
+        for block in deps.split("\n\n"):
+            head, *files = [line.strip() for line in block.splitlines()] or [""]
+            source = self.build / files[0] if files else None
+            if any(str(self.build / file) in headers for file in files) and source.is_file() \
+                    and "setupUi(" not in source.read_text():
+                spared.append(head.split(":")[0])
+        for name in spared:
+            os.utime(self.build / name)
+        self.ninja("-t", "restat", *spared)
+
     def fresh(self, name):
         folder = self.scratch / name
         shutil.rmtree(folder, ignore_errors=True)
@@ -145,6 +164,8 @@ class Trial:
 
     def try_tests(self):
         result = {"verdict": "survived", "test": "", "output": "", "unsteady": []}
+        if self.job["change"] and self.job["change"]["file"].endswith(".ui"):
+            self.spare_form_users()
         if self.job["change"] and not self.ninja(*PROGRAMS):
             return result | {"verdict": "unbuilt", "output": self.output}
         for test in self.job["tests"]:

@@ -408,6 +408,11 @@ class FormPlaces(Places):
                   lambda text: [str(int(text) + 1), str(int(text) * 2 or 9)])
         self.each(r"<bool>(\w+)<", lambda text: [OTHER_WORDS[text]])
         self.each(r" (?:row|column|rowspan|colspan)=\"(\d+)\"", lambda text: [str(int(text) + 1)])
+        self.each(r" \w*(?:stretch|minimumheight|minimumwidth)=\"([\d,]+)\"", lambda text: [
+            re.sub(r"\d+", lambda number: str(int(number.group()) + 1), text, count=1),
+            ",".join(reversed(text.split(",")))])
+        self.each(r" alignment=\"Qt::Align(\w+)\"",
+                  lambda text: ["Left" if text != "Left" else "Right"])
         for tag in ("enum", "set"):
             values = sorted(set(re.findall(f"<{tag}>(.*?)<", text)))
             self.each(f"<{tag}>(.*?)<", lambda text, values=values: [
