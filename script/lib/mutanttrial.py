@@ -131,6 +131,8 @@ class Trial:
                     and notes.is_file():
                 name.with_suffix(".gcno").symlink_to(notes)
                 names.append(str(name))
+        if not names:
+            return {}  # every process was killed
         done = subprocess.run(["gcov", "--json-format", "--stdout", *names], cwd=coverage,
                               stdin=subprocess.DEVNULL, capture_output=True, check=True)
         found = {}

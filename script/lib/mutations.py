@@ -319,7 +319,9 @@ class CppPlaces(Places):
         for (start, left_end), (right_start, end), left, right in zip(spans, spans[1:], texts,
                                                                      texts[1:]):
             between = self.text[left_end:right_start]
-            self.add("row" if braces else "arguments", start, end, right + between + left)
+            # A list of names alone is a set more often than not: its order means nothing.
+            if not braces or re.search(r"[\"'{\d]", left + right):
+                self.add("row" if braces else "arguments", start, end, right + between + left)
             if braces:
                 self.add("row", start, right_start, "")
 
