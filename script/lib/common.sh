@@ -13,7 +13,7 @@ screen_reader_packages=(dbus at-spi2-core gir1.2-atspi-2.0 python3-gi)
 
 # Progress goes to standard error, so that a script's result stays alone on standard output.
 step() {
-    printf '\n== %s\n' "$*" >&2
+    [ -n "${quiet:-}" ] || printf '\n== %s\n' "$*" >&2
 }
 
 fail() {
@@ -112,8 +112,9 @@ start_display() {
     local number_file=$scratch/display
     step "Starting a virtual display"
     # With -noreset: else it starts anew when its only client leaves, which may be the question
-    # below, and refuses the window manager meanwhile.
-    Xvfb -displayfd 3 -screen 0 "${1:-1600x1280}x24" -dpi 96 -nolisten tcp -noreset \
+    # below, and refuses the window manager meanwhile. And with -ac, because tests start programs
+    # as other users, too.
+    Xvfb -displayfd 3 -screen 0 "${1:-1600x1280}x24" -dpi 96 -nolisten tcp -noreset -ac \
         3>"$number_file" 2>"$scratch/xvfb.log" &
     children+=($!)
     for _ in $(seq 100); do

@@ -127,7 +127,7 @@ void TestTroubledFiles::fullDisk()
 {
     disk = SmallDisk::underTheSettings();
     if (!disk) {
-        QSKIP("needs a small disk");
+        QSKIP("this system lends no small disk");
     }
     start();
     liveThrough({[this] { disk->fill(); },
@@ -141,7 +141,7 @@ void TestTroubledFiles::readOnlyDisk()
 {
     disk = SmallDisk::underTheSettings();
     if (!disk) {
-        QSKIP("needs a small disk");
+        QSKIP("this system lends no small disk");
     }
     start();
     liveThrough({[this] { disk->setWritable(false); },
@@ -217,7 +217,7 @@ void TestTroubledFiles::diskFullAtTheStart()
     QFETCH(bool, lock);
     disk = SmallDisk::underTheSettings();
     if (!disk) {
-        QSKIP("needs a small disk");
+        QSKIP("this system lends no small disk");
     }
     if (settings) {
         ProgramProcess::writeSettings(Lines::threeZonesSettings);

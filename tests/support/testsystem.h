@@ -40,8 +40,8 @@ bool messagesOutliveTheirSender();
 /// Nothing where the system keeps no file for it.
 std::optional<QFile::Permissions> localServerPermissions(const QString &name);
 
-/// A command that becomes the program named behind it, in a network that has no addresses; empty
-/// where the system has none such.
+/// A command that becomes the program named behind it, in a network without the service's address;
+/// empty where the system has none such.
 QStringList commandWithoutNetwork();
 
 /// The display's logical DPI as the desktop's own settings name it to the programs that start;

@@ -65,6 +65,70 @@ private:
 
 const QByteArray dpiResource = "Xft.dpi:\t";
 
+bool ends(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    return process.waitForFinished() && process.exitStatus() == QProcess::NormalExit
+           && process.exitCode() == 0;
+}
+
+/// Whether a user may be somebody else in a namespace; containers and changed roots forbid it.
+bool hasUserNamespaces()
+{
+    static const bool has =
+        ends(QStringLiteral("unshare"),
+             {QStringLiteral("--user"), QStringLiteral("--map-root-user"), QStringLiteral("true")});
+    return has;
+}
+
+/// The command that makes a user of root who still reaches root's files, or root of that user.
+QStringList asUser(const QString &id)
+{
+    const QString kept = QStringLiteral("+chown,+dac_override,+fowner,+kill,+setgid,+setuid");
+    return {QStringLiteral("setpriv"),
+            QStringLiteral("--reuid"),
+            id,
+            QStringLiteral("--regid"),
+            id,
+            QStringLiteral("--clear-groups"),
+            QStringLiteral("--inh-caps"),
+            kept,
+            QStringLiteral("--ambient-caps"),
+            kept};
+}
+
+/// The library that answers for the system where it lends neither networks nor rights.
+QString ownAddressLibrary()
+{
+    return qEnvironmentVariable("LUMIKEY_TEST_LIBRARY");
+}
+
+/// The command that gives a program an administrator's rights: the true ones in a namespace, back
+/// from asUser(), or else what the program takes for them.
+QStringList elevated()
+{
+    if (hasUserNamespaces()) {
+        return {QStringLiteral("unshare"), QStringLiteral("--user"),
+                QStringLiteral("--map-root-user")};
+    }
+    if (::geteuid() == 0) {
+        return asUser(QStringLiteral("0"));
+    }
+    return {QStringLiteral("env"), QStringLiteral("LUMIKEY_TEST_ELEVATED=1")};
+}
+
+/// The command that starts a program without them; empty where it has none anyway.
+QStringList notElevated()
+{
+    const QString user = QStringLiteral("1000");
+    if (hasUserNamespaces()) {
+        return {QStringLiteral("unshare"), QStringLiteral("--user"),
+                QStringLiteral("--map-user=") + user, QStringLiteral("--map-group=") + user};
+    }
+    return ::geteuid() == 0 ? asUser(user) : QStringList();
+}
+
 } // namespace
 
 void TestSystem::throwAwayUser(const QTemporaryDir &home)
@@ -103,14 +167,9 @@ void TestSystem::setAutostartEntry(const QString &path)
     writeFile(entryFile(), "[Desktop Entry]\nExec=\"" + path.toUtf8() + "\"\n");
 }
 
-QStringList TestSystem::commandWithRights(bool elevated, const QString &program)
+QStringList TestSystem::commandWithRights(bool isElevated, const QString &program)
 {
-    // A namespace in which this user is root, or is not; the files stay its own.
-    const QStringList names = elevated ? QStringList{QStringLiteral("--map-root-user")}
-                                       : QStringList{QStringLiteral("--map-user=1000"),
-                                                     QStringLiteral("--map-group=1000")};
-    return QStringList{QStringLiteral("unshare"), QStringLiteral("--user")} + names
-           + QStringList{program};
+    return (isElevated ? elevated() : notElevated()) + QStringList{program};
 }
 
 bool TestSystem::messagesOutliveTheirSender()
@@ -125,6 +184,10 @@ std::optional<QFile::Permissions> TestSystem::localServerPermissions(const QStri
 
 QStringList TestSystem::commandWithoutNetwork()
 {
+    if (!ownAddressLibrary().isEmpty()) {
+        // One that documents use and nobody has: the system says the same of both.
+        return {QStringLiteral("env"), QStringLiteral("LUMIKEY_TEST_ADDRESS=192.0.2.9")};
+    }
     QStringList command{QStringLiteral("unshare"), QStringLiteral("--net")};
     if (::geteuid() != 0) {
         command << QStringLiteral("--user") << QStringLiteral("--map-root-user");
@@ -174,13 +237,18 @@ void TestSystem::makeElevationHelper(const QString &folder, Consent consent)
     // pkexec becomes the program and leaves nothing open that it has inherited.
     const QByteArray become =
         "for fd in $(ls /proc/$$/fd); do [ \"$fd\" -gt 2 ] && eval \"exec $fd>&-\"; done\n"
-        "exec unshare --user --map-root-user \"$@\"\n";
+        "exec "
+        + elevated().join(QLatin1Char(' ')).toUtf8() + " \"$@\"\n";
     const QByteArray body = consent == Consent::Given      ? become
                             : consent == Consent::Declined ? "exit 126\n"
                                                            : "exit 127\n";
     const QString path = folder + QStringLiteral("/pkexec");
     writeFile(path, "#!/bin/bash\n" + body);
-    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    // The one who looks for it may be another user (asUser()).
+    for (const QString &name : {folder, path}) {
+        QFile::setPermissions(name, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner
+                                        | QFile::ReadOther | QFile::ExeOther);
+    }
 }
 
 QString TestSystem::systemFolder(const QTemporaryDir &home)
