@@ -31,6 +31,18 @@ as_root() {
     fi
 }
 
+# lock NAME: waits until no other script has the lock of that name, and keeps it until unlock. Scripts
+# that run beside each other share the packages and the build folders.
+lock() {
+    mkdir -p "$root/build"
+    exec {lock_file}>"$root/build/.$1.lock"
+    flock "$lock_file"
+}
+
+unlock() {
+    exec {lock_file}>&-
+}
+
 # ensure_packages NAME...: installs the Debian packages that are missing.
 ensure_packages() {
     local missing=() name
@@ -42,9 +54,11 @@ ensure_packages() {
         return
     fi
     step "Installing Debian packages: ${missing[*]}"
+    lock packages
     as_root apt-get -q update >&2
     as_root env DEBIAN_FRONTEND=noninteractive \
         apt-get -q -y --no-install-recommends install "${missing[@]}" >&2
+    unlock
 }
 
 # build PRESET [TARGET...]
@@ -53,7 +67,7 @@ build() {
     shift
     step "Building ($preset)"
     cd "$root"
-    mkdir -p "$root/build"
+    lock "$preset"
     cmake --preset "$preset" >"$root/build/$preset.log" 2>&1 \
         || { cat "$root/build/$preset.log"; exit 1; }
     rm -f "$root/build/$preset.log"
@@ -61,7 +75,9 @@ build() {
     if [ $# -gt 0 ]; then
         targets=(--target "$@")
     fi
-    cmake --build --preset "$preset" "${targets[@]}"
+    # Whatever runs beside it goes first: tests wait for real times.
+    nice -n 19 cmake --build --preset "$preset" "${targets[@]}"
+    unlock
 }
 
 # fix_dates: gives everything that is made from these sources the date of their last change, so
