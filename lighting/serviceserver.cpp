@@ -35,6 +35,24 @@ void ServiceServer::start()
     }
 }
 
+void ServiceServer::incomingConnection(qintptr socketDescriptor)
+{
+    QTcpServer::incomingConnection(socketDescriptor);
+    if (++inARow < mostInARow) {
+        return;
+    }
+    // Qt accepts whoever waits in one go: thousands that come at once would all have a socket
+    // before the first is answered, and the window would stand still. No room for more ends that
+    // go.
+    inARow = 0;
+    const int usual = maxPendingConnections();
+    setMaxPendingConnections(0);
+    QTimer::singleShot(0, this, [this, usual] {
+        setMaxPendingConnections(usual);
+        resumeAccepting();
+    });
+}
+
 void ServiceServer::acceptAgain(QAbstractSocket::SocketError error)
 {
     // Qt stops accepting at the first failure, be it one client that left too early, and from then

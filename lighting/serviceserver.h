@@ -28,12 +28,19 @@ public:
     /// @param line asked for once; not at all where nobody waits
     void answer(const std::function<QString()> &line);
 
+    /// So many clients in a row are accepted before everything else has its turn.
+    static constexpr int mostInARow = 32;
+
+protected:
+    void incomingConnection(qintptr socketDescriptor) override;
+
 private:
     /// Goes on accepting clients after the system refused to hand one over.
     void acceptAgain(QAbstractSocket::SocketError error);
 
     ServiceEndpoint endpoint;
     Platform &platform;
+    int inARow = 0;
     bool clientAccepted = false;  ///< since accepting last failed
     bool acceptingFailed = false; ///< since the last client; the log has been told
 };

@@ -1,3 +1,4 @@
+#include "lighting/serviceserver.h"
 #include "tests/support/serviceclient.h"
 #include "tests/support/testwindow.h"
 
@@ -11,6 +12,11 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTest>
+#include <QTimer>
+
+#include <algorithm>
+#include <memory>
+#include <vector>
 
 namespace {
 
@@ -47,6 +53,7 @@ private slots:
     void lastLineIsKept();
     void nobodyToAnswer();
     void manyAtOnce();
+    void othersHaveTheirTurn();
     void clientsThatAreGone();
     void clientThatTalks();
     void acceptingGoesOn_data();
@@ -176,6 +183,31 @@ void TestServiceServer::manyAtOnce()
     QCOMPARE(normals, clients - 2);
     auto *const server = world.window->findChild<QTcpServer *>();
     QTRY_COMPARE(server->findChildren<QTcpSocket *>().size(), 0);
+}
+
+void TestServiceServer::othersHaveTheirTurn()
+{
+    TestWindow world;
+    startRed(world);
+    std::vector<std::unique_ptr<QTcpSocket>> clients;
+    for (int client = 0; client < 3 * ServiceServer::mostInARow; ++client) {
+        clients.push_back(std::make_unique<QTcpSocket>());
+        clients.back()->connectToHost(QHostAddress(QStringLiteral("127.0.0.9")),
+                                      world.servicePort());
+        QVERIFY(clients.back()->waitForConnected());
+    }
+    int inThisTurn = 0;
+    int mostInATurn = 0;
+    connect(world.window->findChild<ServiceServer *>(), &QTcpServer::newConnection,
+            [&] { mostInATurn = std::max(mostInATurn, ++inThisTurn); });
+    QTimer turn; // of the event loop: without an interval it fires in each
+    connect(&turn, &QTimer::timeout, [&] { inThisTurn = 0; });
+    turn.start(0);
+    for (const auto &client : clients) {
+        QTRY_COMPARE(client->state(), QAbstractSocket::UnconnectedState);
+        QVERIFY(!client->readAll().isEmpty());
+    }
+    QCOMPARE(mostInATurn, ServiceServer::mostInARow);
 }
 
 void TestServiceServer::clientsThatAreGone()
