@@ -101,15 +101,19 @@ class Test:
         return dataclasses.asdict(self)
 
 
-def read_tests():
+def read_tests(one_room):
+    """The tests; where one room is made for several, without that which each makes for itself."""
     shown = subprocess.run(["ctest", "--test-dir", BUILD, "--show-only=json-v1"],
                            check=True, capture_output=True, text=True).stdout
     tests = []
     for test in json.loads(shown)["tests"]:
         properties = {entry["name"]: entry["value"] for entry in test["properties"]}
-        program = pathlib.Path(test["command"][0])
+        command = test["command"]
+        bare = command[3:] if command[0].endswith("script/lib/room") else command
+        program = pathlib.Path(bare[0])
         inside = BUILD in program.parents
-        tests.append(Test(test["name"], test["command"], properties["WORKING_DIRECTORY"],
+        tests.append(Test(test["name"], bare if one_room else command,
+                          properties["WORKING_DIRECTORY"],
                           properties.get("ENVIRONMENT", []), properties.get("TIMEOUT", 120),
                           " ".join(properties.get("LABELS", [])),
                           str(program.relative_to(BUILD)) if inside else ""))
@@ -146,7 +150,8 @@ class Worlds:
     def run(self, tests, change=None, coverage=False):
         job = {"tree": str(TREE), "build": str(BUILD), "coverage": coverage,
                "change": change and {"file": change.file, "start": change.start,
-                                     "end": change.end, "new": change.new},
+                                     "end": change.end, "old": change.old,
+                                     "new": change.new},
                "tests": [test.job() for test in tests]}
         with tempfile.TemporaryDirectory() as name:
             folder = pathlib.Path(name)
@@ -435,8 +440,8 @@ def main(arguments):
     known = read_equivalents([change for place in places for change in place])
     say("Building")
     build_all()
-    tests = read_tests()
     worlds = Worlds(command, options.worlds)
+    tests = read_tests(worlds.apart)
     order = Order(Reach(tests, worlds), tests, QUICK_TESTS if options.quick else len(tests))
 
     if options.again:

@@ -13,6 +13,7 @@ import shutil
 import signal
 import subprocess
 import sys
+import tempfile
 import time
 
 BUILD_SECONDS = 1800
@@ -58,7 +59,7 @@ class Trial:
     def __init__(self, job):
         self.job = job
         self.build = pathlib.Path(job["build"])
-        self.scratch = pathlib.Path(os.environ["TMPDIR"])
+        self.scratch = pathlib.Path(tempfile.mkdtemp())
         self.seconds = {}
         self.output = ""
 
@@ -152,17 +153,22 @@ class Trial:
                 for name, here in found.items()}
 
     def run(self):
+        """Says what became of the job, and leaves nothing but that."""
         change = self.job["change"]
         if change:
             file = pathlib.Path(self.job["tree"], change["file"])
             whole = file.read_bytes()
             text = whole.decode()
-            file.write_text(text[:change["start"]] + change["new"] + text[change["end"]:])
+            if text[change["start"]:change["end"]] != change.get("old", ""):
+                sys.exit(f"{file} has changed since the draw")
+            file.write_bytes((text[:change["start"]] + change["new"]
+                              + text[change["end"]:]).encode())
         try:
             return self.try_tests()
         finally:
             if change:
-                file.write_bytes(whole)  # where the tree is not a layer of its own
+                file.write_bytes(whole)  # where the tree has no layer above it
+            shutil.rmtree(self.scratch, ignore_errors=True)
 
     def try_tests(self):
         result = {"verdict": "survived", "test": "", "output": "", "unsteady": []}

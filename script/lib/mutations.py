@@ -472,7 +472,8 @@ def sources(root):
 
 def all_places(root, folder):
     """The alternatives at each place of every file of the folder, which is a copy of the root."""
-    texts = {name: (pathlib.Path(folder) / name).read_text() for name in sources(root)}
+    # As the bytes are: the style sheet has line ends of Windows.
+    texts = {name: (pathlib.Path(folder) / name).read_bytes().decode() for name in sources(root)}
     scopes = names_by_scope(text for name, text in texts.items() if name.endswith((".cpp", ".h")))
     places = []
     for name, text in texts.items():
