@@ -53,7 +53,7 @@ void fixSize(QWidget &button, int edge)
 
 void MainWindow::DPIfixes()
 {
-    const QSize before = size();
+    const QRect before = geometry();
     const DpiBand &band = dpiBand(QApplication::desktop()->logicalDpiX());
     if (band.controlSize != 0) {
         fixSize(*ui->minimizeButton, band.controlSize);
@@ -73,11 +73,13 @@ void MainWindow::DPIfixes()
         const QSize available = screen()->availableSize();
         resize(minimumSizeHint().boundedTo(available).expandedTo(size()));
     }
-    if (size() != before) {
-        // Grown to the right and down, it may have left the screen there.
-        const QScreen *const screen = QGuiApplication::screenAt(geometry().center());
+    if (size() != before.size()) {
+        // Grown to all sides alike, and not beyond the screen.
+        QRect grown(QPoint(), size());
+        grown.moveCenter(before.center());
+        const QScreen *const screen = QGuiApplication::screenAt(grown.center());
         const QScreen *const home = screen ? screen : QGuiApplication::primaryScreen();
-        setGeometry(WindowPlace::movedInto(geometry(), home->availableGeometry()));
+        setGeometry(WindowPlace::movedInto(grown, home->availableGeometry()));
     }
     sizesAdapted = true;
 }
