@@ -56,6 +56,33 @@ inline constexpr std::array texts{
     Text{"Button_Update", "Update"},
 };
 
+/// What a screen reader calls a widget that has no text, or whose text says too little.
+inline constexpr std::array accessibleNames{
+    Text{"minimizeButton", "Minimize"},
+    Text{"closeButton", "Close"},
+    Text{"horizontalSlider", "Brightness"},
+    Text{"keyboard_full", "Keyboard preview"},
+    Text{"colorpick4", "Keyboard color"},
+    Text{"keyboard_left", "Left zone preview"},
+    Text{"colorpick1", "Left zone color"},
+    Text{"keyboard_center", "Center zone preview"},
+    Text{"colorpick2", "Center zone color"},
+    Text{"keyboard_right", "Right zone preview"},
+    Text{"colorpick3", "Right zone color"},
+    Text{"stripe_led", "Stripe preview"},
+    Text{"colorpick5", "Stripe color"},
+    Text{"stripe_led_2", "Per-key keyboard picture"},
+    Text{"colorpick5_3", "Open the per-key keyboard app"},
+    Text{"svSelector", "Saturation and value"},
+    Text{"colorSample", "Selected color"},
+    Text{"hSelector", "Hue"},
+    Text{"leRGB", "RGB color"},
+    Text{"leHex", "HEX color"},
+    Text{"comboBox_BasicColors", "Quick basic colors"},
+    Text{"Combo_Effect", "Effect"},
+    Text{"comboDimValue", "Auto turn off after"},
+};
+
 /// One entry of a combo box.
 struct Item
 {

@@ -31,6 +31,7 @@ private slots:
     void tabSelects();
     void tabsAreConsumed_data();
     void tabsAreConsumed();
+    void tabWithOtherKeysPasses();
     void signalsNamedByTheConventionsExist();
 
 private:
@@ -271,6 +272,18 @@ void TestColorTextField::tabsAreConsumed()
     QTEST(previous.count(), "previous");
     QTEST(field->selectedText(), "selected");
     QVERIFY(field->hasFocus());
+}
+
+void TestColorTextField::tabWithOtherKeysPasses()
+{
+    field->setText(QStringLiteral("12 34 56"));
+    field->setCursorPosition(0);
+    const QSignalSpy next(field, SIGNAL(focusNextField()));
+    QKeyEvent event(QEvent::KeyPress, Qt::Key_Tab, Qt::ControlModifier | Qt::AltModifier);
+    QApplication::sendEvent(field, &event);
+    QVERIFY(!event.isAccepted());
+    QCOMPARE(next.count(), 0);
+    QCOMPARE(field->selectedText(), QString());
 }
 
 void TestColorTextField::signalsNamedByTheConventionsExist()

@@ -220,6 +220,9 @@ void TestForm::checkLooks(const QWidget &widget, const char *object) const
         QCOMPARE(shownText(widget), QLatin1String(words ? words->text : ""));
     }
 
+    const auto *spoken = formtables::find(formtables::accessibleNames, object);
+    QCOMPARE(widget.accessibleName(), QLatin1String(spoken ? spoken->text : ""));
+
     const auto *named = formtables::find(formtables::limits, object);
     const auto &limits = named ? *named : formtables::defaultLimits;
     QCOMPARE(widget.minimumSize(), QSize(limits.minimumWidth, limits.minimumHeight));

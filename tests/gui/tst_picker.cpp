@@ -16,6 +16,7 @@
 #include <QLineEdit>
 #include <QStatusBar>
 #include <QTest>
+#include <QTimer>
 #include <QWheelEvent>
 #include <QWindow>
 
@@ -52,6 +53,9 @@ private slots:
     void draggedSampleCopiesNothing();
 
 private:
+    /// What the next change of the brightness goes by.
+    static QStringList colours(const LightingState &state);
+
     /// Whether every pixel of the square's picture, as the window shows it, is a grey.
     static bool squareIsGrey(const TestWindow &world)
     {
@@ -71,6 +75,12 @@ private:
         return true;
     }
 };
+
+QStringList TestPicker::colours(const LightingState &state)
+{
+    return {state.leftZoneColor, state.centerZoneColor, state.rightZoneColor, state.singleZoneColor,
+            state.stripeLidColor};
+}
 
 void TestPicker::targets_data()
 {
@@ -104,6 +114,7 @@ void TestPicker::targets()
     QTEST(world.get<QLabel>("label_8")->text(), "prompt");
     QTEST(text(world, "leRGB"), "loaded");
     QCOMPARE(world.get<QComboBox>("comboBox_BasicColors")->currentIndex(), 0);
+    QStringList kept = colours(world.window->lightingState());
 
     enter(world, "leRGB", "0 0 255");
     world.get<QAbstractButton>("pushButton")->click();
@@ -111,6 +122,13 @@ void TestPicker::targets()
     QVERIFY(!world.get<QWidget>("tabWidget")->isHidden());
     QVERIFY(!world.get<QWidget>("tabWidget_2")->isHidden());
     QCOMPARE(world.stored(key), QStringLiteral("0 0 255"));
+    const int target = button.rightRef(1).toInt();
+    for (int i = 0; i < kept.size(); ++i) {
+        if (i == target - 1 || (target == 4 && i < 3)) { // the whole keyboard is all three zones
+            kept[i] = QStringLiteral("0 0 255");
+        }
+    }
+    QCOMPARE(colours(world.window->lightingState()), kept);
 }
 
 void TestPicker::cancelStoresNothing()
@@ -303,7 +321,10 @@ void TestPicker::copying()
     QCOMPARE(bar->currentMessage(), QStringLiteral("Hex # copied"));
     QTest::mouseClick(sample, Qt::LeftButton);
     QCOMPARE(clipboard->text(), QStringLiteral("0080ff"));
-    QTRY_COMPARE_WITH_TIMEOUT(bar->currentMessage(), QString(), 3500);
+    auto *const forgetting = bar->findChild<QTimer *>();
+    QCOMPARE(forgetting->interval(), 3000);
+    forgetting->start(0);
+    QTRY_COMPARE(bar->currentMessage(), QString());
 }
 
 void TestPicker::pasting()

@@ -39,6 +39,7 @@ private slots:
     void focusIsSeen_data();
     void focusIsSeen();
     void clickShowsNoFocus();
+    void returnOfTheWindowShowsNoFocus();
     void stripIsASlider();
     void squareTellsItsValues();
     void sampleIsAButton();
@@ -172,13 +173,32 @@ void TestPickerKeys::focusIsSeen()
 
 void TestPickerKeys::clickShowsNoFocus()
 {
+    const std::initializer_list<std::pair<const char *, Qt::Key>> keys{
+        {"hSelector", Qt::Key_Up},    {"hSelector", Qt::Key_Down},    {"svSelector", Qt::Key_Left},
+        {"svSelector", Qt::Key_Down}, {"colorSample", Qt::Key_Space},
+    };
+    for (const auto &[name, key] : keys) {
+        auto *const widget = get<QWidget>(name);
+        get<QWidget>("pushButton")->setFocus();
+        const QColor resting = frameOf(*widget);
+        QTest::mouseClick(widget, Qt::LeftButton, {}, {20, 40});
+        widget->setFocus(Qt::MouseFocusReason);
+        QCOMPARE(QApplication::focusWidget(), widget);
+        QCOMPARE(frameOf(*widget), resting);
+        QTest::keyClick(widget, key);
+        QVERIFY2(frameOf(*widget) != resting, name);
+    }
+}
+
+void TestPickerKeys::returnOfTheWindowShowsNoFocus()
+{
     auto *const strip = get<HSelector>("hSelector");
     const QColor resting = frameOf(*strip);
-    QTest::mouseClick(strip, Qt::LeftButton, {}, {20, 182});
-    QCOMPARE(QApplication::focusWidget(), strip);
-    QCOMPARE(frameOf(*strip), resting);
-    QTest::keyClick(strip, Qt::Key_Down);
-    QVERIFY(frameOf(*strip) != resting);
+    for (const auto reason : {Qt::ActiveWindowFocusReason, Qt::OtherFocusReason}) {
+        QFocusEvent in(QEvent::FocusIn, reason);
+        QCoreApplication::sendEvent(strip, &in);
+        QCOMPARE(frameOf(*strip) != resting, reason == Qt::OtherFocusReason);
+    }
 }
 
 void TestPickerKeys::stripIsASlider()
@@ -218,6 +238,8 @@ void TestPickerKeys::sampleIsAButton()
     QCOMPARE(accessible->role(), QAccessible::Button);
     QCOMPARE(accessible->text(QAccessible::Name), QStringLiteral("Selected color"));
     QCOMPARE(accessible->text(QAccessible::Description), QStringLiteral("#008080"));
+    QVERIFY(accessible->actionInterface()->actionNames().contains(
+        QAccessibleActionInterface::pressAction()));
     const QSignalSpy presses(sample, SIGNAL(samplePressedLeft()));
     accessible->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     QCOMPARE(presses.size(), 1);
@@ -231,6 +253,7 @@ void TestPickerKeys::fieldsCanBeLeft()
     auto *const first = get<QLineEdit>("leRGB");
     auto *const second = get<QLineEdit>("leHex");
     first->setFocus();
+    second->setSelection(0, 2);          // as a screen reader may have left it
     QTest::keyClick(first, Qt::Key_Tab); // stays in the field
     QCOMPARE(QApplication::focusWidget(), first);
     QTest::keyClick(first, Qt::Key_Tab, Qt::ControlModifier);

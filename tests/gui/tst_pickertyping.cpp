@@ -33,6 +33,7 @@ class TestPickerTyping : public QObject
 private slots:
     void typedLetterByLetter_data();
     void typedLetterByLetter();
+    void blankThatEndsNoNumber();
     void overtyping_data();
     void overtyping();
     void hexIsEntered();
@@ -75,6 +76,19 @@ void TestPickerTyping::typedLetterByLetter()
     type(world, "leRGB", keys);
     QTEST(text(world, "leRGB"), "field");
     QTEST(world.get<ColorSample>("colorSample")->color(), "colour");
+}
+
+void TestPickerTyping::blankThatEndsNoNumber()
+{
+    TestWindow world;
+    open(world, "colorpick1", "Zone1Color=1 2 3\n");
+    type(world, "leRGB", QStringLiteral("7 8"));
+    auto *const edit = world.get<QLineEdit>("leRGB");
+    edit->selectAll();
+    QTest::keyClick(edit, Qt::Key_Space); // takes the place of the selected text
+    QCOMPARE(edit->text(), QString());
+    QTest::keyClick(edit, Qt::Key_Space);
+    QCOMPARE(edit->text(), QString());
 }
 
 void TestPickerTyping::overtyping_data()
@@ -197,6 +211,11 @@ void TestPickerTyping::hexAfterAnotherEdit()
     type(world, "leHex", QStringLiteral("123"));
     QTest::keyClick(edit, Qt::Key_4, Qt::AltModifier); // no typing, whatever it brings along
     QCOMPARE(edit->text().left(6), QStringLiteral("112233"));
+
+    type(world, "leHex", QStringLiteral("123"));
+    QKeyEvent two(QEvent::KeyPress, 0, Qt::NoModifier, QStringLiteral("45")); // no one digit
+    QCoreApplication::sendEvent(edit, &two);
+    QCOMPARE(edit->text(), QStringLiteral("11223345"));
 
     // Pasted by the button, and come back to.
     world.get<QWidget>("svSelector")->setFocus();

@@ -5,9 +5,11 @@
 #include "colorpicker/hselector.h"
 #include "colorpicker/svselector.h"
 
+#include <QHBoxLayout>
 #include <QPainter>
 #include <QTest>
 
+#include <functional>
 #include <memory>
 
 Q_DECLARE_METATYPE(Qt::MouseButton)
@@ -23,7 +25,42 @@ public:
     using ColorWidget::drawFrame;
 };
 
+/// The three widgets in one window.
+struct Panel
+{
+    Panel()
+    {
+        auto *const layout = new QHBoxLayout(&window);
+        for (ColorWidget *const widget :
+             std::initializer_list<ColorWidget *>{strip, square, sample}) {
+            widget->setFixedSize(60, 260);
+            layout->addWidget(widget);
+        }
+    }
+    QWidget window;
+    HSelector *strip = new HSelector;
+    SVSelector *square = new SVSelector;
+    ColorSample *sample = new ColorSample;
+};
+
+/// Counts how often a widget is drawn.
+class Drawings : public QObject
+{
+public:
+    explicit Drawings(QWidget &watched) { watched.installEventFilter(this); }
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+    int count = 0;
+};
+
+using Change = std::function<void(const Panel &)>;
+
 } // namespace
+
+Q_DECLARE_METATYPE(Change)
 
 class TestPickerWidgets : public QObject
 {
@@ -35,6 +72,8 @@ private slots:
     void frame();
     void middlePress_data();
     void middlePress();
+    void changesAreDrawn_data();
+    void changesAreDrawn();
     void modifierSignals();
     void modifierKeys();
     void sampleColor();
@@ -133,6 +172,42 @@ void TestPickerWidgets::middlePress()
     QVERIFY(copy != nullptr);
     QCOMPARE(copy->pos(), QPoint(11, 22));
     QCOMPARE(copy->button(), Qt::MiddleButton);
+}
+
+void TestPickerWidgets::changesAreDrawn_data()
+{
+    QTest::addColumn<int>("drawn"); // which of the three
+    QTest::addColumn<Change>("change");
+    const auto row = [](const char *name, int drawn, const Change &change) {
+        QTest::newRow(name) << drawn << change;
+    };
+    row("hue by the user", 0, [](const Panel &panel) { panel.strip->chooseHue(240); });
+    row("hue from outside", 0, [](const Panel &panel) { panel.strip->setHue(240); });
+    row("place in the square", 1, [](const Panel &panel) { press(*panel.square, {50, 60}); });
+    row("hue of the square", 1,
+        [](const Panel &panel) { panel.square->changeHue(QColor(0, 0, 255)); });
+    row("sample", 2, [](const Panel &panel) { panel.sample->changeColor(QColor(1, 2, 3)); });
+    const auto pass = [](QEvent::Type type) {
+        return [type](const Panel &panel) {
+            QEvent event(type);
+            QApplication::sendEvent(panel.sample, &event);
+        };
+    };
+    row("pointer comes", 2, pass(QEvent::Enter));
+    row("pointer goes", 2, pass(QEvent::Leave));
+}
+
+void TestPickerWidgets::changesAreDrawn()
+{
+    QFETCH(int, drawn);
+    QFETCH(Change, change);
+    Panel panel;
+    panel.window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&panel.window));
+    QTest::qWait(20); // for what the window's appearance draws
+    const Drawings drawings(*panel.window.layout()->itemAt(drawn)->widget());
+    change(panel);
+    QTRY_VERIFY_WITH_TIMEOUT(drawings.count > 0, 1000);
 }
 
 void TestPickerWidgets::modifierSignals()

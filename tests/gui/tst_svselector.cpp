@@ -21,6 +21,7 @@ private slots:
     void squareFromOutside();
     void squareHueChange_data();
     void squareHueChange();
+    void firstHuePlacesTheRing();
     void squareDrawing();
     void pictureIsRebuiltOnHueChangeOnly();
 };
@@ -170,6 +171,15 @@ void TestSVSelector::squareHueChange()
     QCOMPARE(square.marker, QPoint(32, 217));
     drawn(square);
     QCOMPARE(square.cacheImage, svPicture(hue));
+}
+
+/// The ring, which starts beside the start colour, stands right from the first hue on.
+void TestSVSelector::firstHuePlacesTheRing()
+{
+    Opened<SVSelector> square;
+    QCOMPARE(square.marker, QPoint(255, 0));
+    square.changeHue(QColor(0, 0, 255));
+    QCOMPARE(square.marker, QPoint(257, 2));
 }
 
 void TestSVSelector::squareDrawing()
