@@ -5,6 +5,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
+#include <QStandardPaths>
 #include <QtTest>
 
 #include <memory>
@@ -56,6 +57,10 @@ private slots:
     void periodIsKept();
     void vanishedServer();
     void connectionDroppedByAnEndingServer();
+    void singleConnectionsDropped();
+    void outputThatCannotBeWritten();
+    void coloursInATerminal_data();
+    void coloursInATerminal();
     void waitsForTheServer();
     void waitsAgainWhenTheServerVanishes();
 
@@ -74,6 +79,9 @@ void TestAgentProgram::helpAndVersion()
     QCOMPARE(help.exitCode(), 0);
     for (const char *option : {"--once", "--json", "--wait", "--period <ms>", "--timeout <ms>"}) {
         QVERIFY2(help.output().contains(QLatin1String(option)), option);
+    }
+    for (const char *limit : {"(default 100)", "(default 2000)"}) {
+        QVERIFY2(help.output().contains(QLatin1String(limit)), limit);
     }
     QCOMPARE(help.errors(), QString());
 
@@ -349,6 +357,63 @@ void TestAgentProgram::connectionDroppedByAnEndingServer()
     QVERIFY2(agent.errors().contains(QStringLiteral("has gone")), qPrintable(agent.errors()));
 }
 
+/// Only two connections in a row that bring nothing are a fault.
+void TestAgentProgram::singleConnectionsDropped()
+{
+    server->replies = {{QByteArray()}, {frame(normalText)}, {QByteArray()}, {frame(normalText)}};
+    QVERIFY(server->listen());
+    Agent agent({QStringLiteral("--wait"), QStringLiteral("--period"), QStringLiteral("20")});
+    QTRY_VERIFY_WITH_TIMEOUT(server->times.size() >= 6, longEnough);
+    QVERIFY(agent.running());
+    QCOMPARE(agent.errors(), QString());
+}
+
+void TestAgentProgram::outputThatCannotBeWritten()
+{
+    const QString full = QStringLiteral("/dev/full");
+    if (!QFile::exists(full)) {
+        QSKIP("This system has no device that is always full.");
+    }
+    server->replies = repliesOf({normalText});
+    QVERIFY(server->listen());
+    QProcess agent;
+    agent.setStandardOutputFile(full);
+    agent.start(QStringLiteral(LUMIKEY_AGENT_PATH), QStringList());
+    QTRY_COMPARE_WITH_TIMEOUT(agent.state(), QProcess::NotRunning, longEnough);
+    QCOMPARE(agent.exitCode(), 3);
+    QCOMPARE(agent.readAllStandardError(),
+             QByteArray("lumikey-agent: cannot write to standard output\n"));
+}
+
+void TestAgentProgram::coloursInATerminal_data()
+{
+    QTest::addColumn<QString>("environment");
+    QTest::addColumn<bool>("coloured");
+    QTest::newRow("wanted") << QString() << true;
+    QTest::newRow("not wanted") << QStringLiteral("NO_COLOR=1 ") << false;
+    QTest::newRow("an empty wish is none") << QStringLiteral("NO_COLOR= ") << true;
+}
+
+void TestAgentProgram::coloursInATerminal()
+{
+    QFETCH(QString, environment);
+    const QString terminal = QStandardPaths::findExecutable(QStringLiteral("script"));
+    if (terminal.isEmpty()) {
+        QSKIP("This system has no program that stands in for a terminal.");
+    }
+    server->replies = repliesOf({normalText});
+    QVERIFY(server->listen());
+    QProcess agent;
+    agent.start(terminal,
+                {QStringLiteral("-qec"), environment + QStringLiteral(LUMIKEY_AGENT_PATH " --once"),
+                 QStringLiteral("/dev/null")});
+    QTRY_COMPARE_WITH_TIMEOUT(agent.state(), QProcess::NotRunning, longEnough);
+    QCOMPARE(agent.exitCode(), 0);
+    const QByteArray output = agent.readAllStandardOutput();
+    QVERIFY2(output.contains("#ff0000"), output.constData());
+    QTEST(output.contains("\x1b[48;2;255;0;0m"), "coloured");
+}
+
 void TestAgentProgram::waitsForTheServer()
 {
     Agent agent({QStringLiteral("--wait"), QStringLiteral("--once")});
@@ -384,6 +449,10 @@ void TestAgentProgram::waitsAgainWhenTheServerVanishes()
     QTRY_COMPARE_WITH_TIMEOUT(agent.output(), normalLine + normalLine, longEnough);
     QVERIFY(agent.running());
     QCOMPARE(agent.errors().count(QLatin1Char('\n')), 1);
+
+    // And so is the next absence.
+    server->stop();
+    QTRY_COMPARE_WITH_TIMEOUT(agent.errors().count(QStringLiteral("has gone (")), 2, longEnough);
 }
 
 QTEST_GUILESS_MAIN(TestAgentProgram)

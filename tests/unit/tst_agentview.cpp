@@ -278,7 +278,7 @@ void TestAgentView::panelBlocks()
     }
     QCOMPARE(blockRows, 3);
     QVERIFY(lines.filter(QStringLiteral("raw word")).size() == 1);
-    QCOMPARE(withoutSequences(lines.last()), QStringLiteral("  effect  None"));
+    QCOMPARE(lines.last(), QStringLiteral("  effect  \x1b[1mNone\x1b[0m"));
 }
 
 void TestAgentView::panelFitsEightyColumns_data()
