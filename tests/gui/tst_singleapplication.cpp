@@ -41,11 +41,14 @@ private slots:
     void clientThatLeavesAtOnce();
     void messages();
     void longMessages();
+    void longMessagesOneAfterTheOther();
     void randomMessages();
 
 private:
     std::unique_ptr<QLocalSocket> connectClient() const;
     std::unique_ptr<QLocalSocket> announce(quint8 type, quint32 number = 0) const;
+    /// The bytes of all messages so far.
+    qint64 length() const;
 
     SingleApplication &application;
     QString name;
@@ -78,6 +81,15 @@ std::unique_ptr<QLocalSocket> TestSingleApplication::announce(quint8 type, quint
     client->write(encodeConnectionMessage(name, {type, number}));
     client->flush();
     return client;
+}
+
+qint64 TestSingleApplication::length() const
+{
+    qint64 sum = 0;
+    for (const QList<QVariant> &arguments : qAsConst(*received)) {
+        sum += arguments.at(1).toByteArray().size();
+    }
+    return sum;
 }
 
 void TestSingleApplication::block()
@@ -216,13 +228,6 @@ void TestSingleApplication::longMessages()
 {
     const auto client = announce(ConnectionMessage::NewStart);
     QTRY_COMPARE(started->count(), 1);
-    const auto length = [this] {
-        qint64 sum = 0;
-        for (const QList<QVariant> &arguments : qAsConst(*received)) {
-            sum += arguments.at(1).toByteArray().size();
-        }
-        return sum;
-    };
     client->write(QByteArray(bound, 'x'));
     QTRY_COMPARE(length(), bound);
     QTest::qWait(100);
@@ -235,6 +240,19 @@ void TestSingleApplication::longMessages()
     flood->write(QByteArray(16 * bound, 'x'));
     QTRY_COMPARE(flood->state(), QLocalSocket::UnconnectedState);
     QCOMPARE(length(), 2 * bound);
+}
+
+/// A copy may send as much as those that were there before it.
+void TestSingleApplication::longMessagesOneAfterTheOther()
+{
+    for (int copies = 1; copies <= 10; ++copies) {
+        const auto client = announce(ConnectionMessage::NewStart);
+        QTRY_COMPARE(started->count(), copies);
+        client->write(QByteArray(bound - 1, 'x'));
+        QTRY_COMPARE(length(), copies * (bound - 1));
+        client->disconnectFromServer();
+        QCoreApplication::processEvents();
+    }
 }
 
 void TestSingleApplication::randomMessages()

@@ -4,6 +4,7 @@
 #include <QProcess>
 #include <QSet>
 #include <QTest>
+#include <QThread>
 #include <QWidget>
 
 #include <sys/ioctl.h>
@@ -130,6 +131,7 @@ private slots:
     void buttons();
     void pointerMoves();
     void grabbedByAnotherWindow();
+    void pollThatIsFasterThanTheEventLoop();
     void nothingPilesUpBetweenPolls();
     void twoListeners();
     void noDisplay_data();
@@ -259,6 +261,18 @@ void TestX11KeyPresses::grabbedByAnotherWindow()
     xdotool(
         {QStringLiteral("click"), QStringLiteral("1"), QStringLiteral("key"), QStringLiteral("a")});
     QCOMPARE(codes(pressesUntil(aKey)), codes({1, aKey}));
+}
+
+/// A poll takes along what has arrived, also where the event loop has not come to it.
+void TestX11KeyPresses::pollThatIsFasterThanTheEventLoop()
+{
+    press("a");
+    KeyPresses all;
+    for (int poll = 0; poll < 1000 && all.none(); ++poll) {
+        QThread::msleep(2);
+        all |= presses->takePresses();
+    }
+    QCOMPARE(codes(all), codes({aKey}));
 }
 
 void TestX11KeyPresses::nothingPilesUpBetweenPolls()

@@ -99,6 +99,7 @@ private slots:
     void ramp_data();
     void ramp();
     void rampStopsAtInput();
+    void idleTimesOfTheList();
     void idleTimes_data();
     void idleTimes();
     void wholeNight_data();
@@ -246,6 +247,16 @@ void TestAutoDim::rampStopsAtInput()
     night.pollFor(fiveSeconds - pollMs);
     QCOMPARE(night.state.brightness, 99);
     QCOMPARE(told(night.poll()), QStringLiteral("97/1 dimming"));
+}
+
+void TestAutoDim::idleTimesOfTheList()
+{
+    constexpr qint32 second = 1000;
+    constexpr qint32 minute = 60 * second;
+    constexpr std::array<qint32, 9> told{5 * second,  10 * second, 30 * second,
+                                         minute,      5 * minute,  10 * minute,
+                                         15 * minute, 30 * minute, 60 * minute};
+    QVERIFY(idleTimesMs == told);
 }
 
 void TestAutoDim::idleTimes_data()

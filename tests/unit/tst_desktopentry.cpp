@@ -11,6 +11,7 @@ private slots:
     void pathComesBack();
     void startsInTheProgramsFolder_data();
     void startsInTheProgramsFolder();
+    void specialLetters();
     void execLine_data();
     void execLine();
 };
@@ -56,6 +57,14 @@ void TestDesktopEntry::startsInTheProgramsFolder()
     QFETCH(QByteArray, line);
     const QByteArray entry = DesktopEntry::write(QStringLiteral("Lumikey"), path);
     QVERIFY2(entry.split('\n').contains(line), entry.constData());
+}
+
+/// Each of the four is escaped, and each backslash doubled once more.
+void TestDesktopEntry::specialLetters()
+{
+    const QByteArray entry =
+        DesktopEntry::write(QStringLiteral("Lumikey"), QStringLiteral("/a\"b`c$d\\e"));
+    QVERIFY2(entry.contains("\nExec=\"/a\\\\\"b\\\\`c\\\\$d\\\\\\\\e\"\n"), entry.constData());
 }
 
 void TestDesktopEntry::execLine_data()
