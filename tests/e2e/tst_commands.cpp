@@ -7,6 +7,9 @@
 #include <QElapsedTimer>
 #include <QSystemTrayIcon>
 #include <QTest>
+#include <QThread>
+
+#include <future>
 
 namespace {
 
@@ -252,9 +255,17 @@ void TestCommands::uninstallerIsMissing()
 void TestCommands::perKeyInstaller()
 {
     CommandWorld world;
-    world.standIns->addBatch(QStringLiteral("PERKEY/RunAsAdministrator.bat"));
+    world.standIns->addBatch(QStringLiteral("PERKEY/RunAsAdministrator.bat"), 200);
     world.start();
+    auto storedMeanwhile = std::async(std::launch::async, [&world] {
+        for (int look = 0; look < 1000 && world.standIns->runs().isEmpty(); ++look) {
+            QThread::msleep(5);
+        }
+        return world.stored(SettingKeys::perKey);
+    });
     world.get<QAbstractButton>("UsePerKeyApp")->click();
+    // What ends the program while the installer asks for rights finds the mode stored.
+    QCOMPARE(storedMeanwhile.get(), QStringLiteral("true"));
     // Blocks until the end, so the record is complete.
     QCOMPARE(world.standIns->runs(), QStringList{QStringLiteral("RunAsAdministrator.bat")});
     QCOMPARE(world.standIns->folderOfRun(0), QDir::currentPath());

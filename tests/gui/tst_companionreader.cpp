@@ -32,6 +32,7 @@ private slots:
     void noneNeverChangesTheSlider();
     void emptyTextChangesNothing();
     void sliderWaitsForTheWakeOfAutoDim();
+    void sameValueTwiceUnderAutoDim();
     void numbersBeyondTheSlider_data();
     void numbersBeyondTheSlider();
     void raisedBrightnessWakesOnce();
@@ -185,6 +186,21 @@ void TestCompanionReader::sliderWaitsForTheWakeOfAutoDim()
     world->platform.presses.set(65);
     world->window->timerDone();
     QCOMPARE(shown(), 60);
+}
+
+void TestCompanionReader::sameValueTwiceUnderAutoDim()
+{
+    world->get<QAbstractButton>("CheckBox_AutoDim")->click();
+    QVERIFY(companion->publish(QStringLiteral("on,60")));
+    tick();
+    world->get<QSlider>("horizontalSlider")->setValue(70); // the user's own choice stays
+    tick();
+    world->clock += 5000;
+    world->window->timerDone();
+    QCOMPARE(shown(), 68);
+    world->platform.presses.set(65);
+    world->window->timerDone();
+    QCOMPARE(shown(), 70);
 }
 
 void TestCompanionReader::numbersBeyondTheSlider_data()

@@ -9,7 +9,9 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHash>
+#include <QLineEdit>
 #include <QRadioButton>
+#include <QStatusBar>
 #include <QStyleOptionButton>
 #include <QTabBar>
 #include <QTabWidget>
@@ -43,26 +45,30 @@ struct Painted
     QColor ground; ///< the most frequent one
 };
 
-Painted paintedText(QWidget &widget)
+Painted painted(const QWidget &widget, const QRect &rect)
 {
-    const QRect rect = textRect(widget).adjusted(2, 2, -2, -2);
     QWidget *const window = widget.window();
     const QImage image = window->grab(rect.translated(widget.mapTo(window, QPoint()))).toImage();
-    Painted painted = {Qt::black, Qt::black};
+    Painted seen = {Qt::black, Qt::black};
     QHash<QRgb, int> counts;
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
             const QColor colour = image.pixelColor(x, y);
             const int count = ++counts[colour.rgb()];
-            if (luminance(colour) > luminance(painted.text)) {
-                painted.text = colour;
+            if (luminance(colour) > luminance(seen.text)) {
+                seen.text = colour;
             }
-            if (count > counts.value(painted.ground.rgb())) {
-                painted.ground = colour;
+            if (count > counts.value(seen.ground.rgb())) {
+                seen.ground = colour;
             }
         }
     }
-    return painted;
+    return seen;
+}
+
+Painted paintedText(const QWidget &widget)
+{
+    return painted(widget, textRect(widget).adjusted(2, 2, -2, -2));
 }
 
 /// A control as the window shows it.
@@ -99,6 +105,7 @@ private slots:
     void init();
     void cleanup();
 
+    void textIsReadable();
     void disabledTextIsDimmed_data();
     void disabledTextIsDimmed();
     void everyFocusedControlIsKnown();
@@ -165,6 +172,31 @@ void TestControlLooks::reveal(QWidget &control) const
     control.setEnabled(true);
     QTRY_VERIFY(control.isVisible());
     QCoreApplication::processEvents();
+}
+
+void TestControlLooks::textIsReadable()
+{
+    const auto contrastOf = [](const Painted &seen) {
+        return contrast(seen.text, seen.ground);
+    };
+    const auto *const bar = get<QTabWidget>("tabWidget")->tabBar();
+    QCOMPARE(bar->currentIndex(), 0);
+    QVERIFY(contrastOf(painted(*bar, bar->tabRect(1).adjusted(4, 4, -4, -4))) >= 4.5);
+    auto *const status = get<QStatusBar>("statusBar");
+    status->showMessage(QStringLiteral("Hex copied"));
+    const QRect left = status->rect().adjusted(0, 0, -status->width() / 2, 0); // no grip
+    QVERIFY(contrastOf(painted(*status, left)) >= 4.5);
+    // The picker's last: opening it hides the others.
+    for (const char *name : {"Combo_Effect", "pushButton_3", "leRGB", "leHex", "bHex"}) {
+        QWidget &control = *get<QWidget>(name);
+        reveal(control);
+        if (auto *const field = qobject_cast<QLineEdit *>(&control)) {
+            field->setText(QStringLiteral("255 0 0"));
+        }
+        const int arrow = qobject_cast<const QComboBox *>(&control) ? control.width() / 3 : 0;
+        const QRect rect = control.rect().adjusted(4, 4, -4 - arrow, -4);
+        QVERIFY2(contrastOf(painted(control, rect)) >= 4.5, name);
+    }
 }
 
 void TestControlLooks::disabledTextIsDimmed_data()

@@ -2,6 +2,25 @@
 
 #include "lighting/idletimes.h"
 
+#include <QAbstractEventDispatcher>
+
+namespace {
+
+/// The times, in milliseconds, of everything that waits to happen once.
+QVector<int> pendingSingleShots()
+{
+    QVector<int> times;
+    auto *const dispatcher = QAbstractEventDispatcher::instance();
+    for (QObject *const child : dispatcher->children()) {
+        for (const auto &timer : dispatcher->registeredTimers(child)) {
+            times += timer.interval;
+        }
+    }
+    return times;
+}
+
+} // namespace
+
 class TestDimPolls : public QObject
 {
     Q_OBJECT
@@ -11,6 +30,10 @@ private slots:
     void idleTimes();
     void rampAndWords();
     void wakeIsSentTwice();
+    void pollKeepsAWakeThatWaits();
+    void startsAfterTheSettings();
+    void loadingTheSettingsIsActivity();
+    void idleTimeCountsFromTheEndOfApplying();
     void everyUserBrightness_data();
     void everyUserBrightness();
     void wakeBeforeTheWordsFollowed_data();
@@ -89,6 +112,57 @@ void TestDimPolls::wakeIsSentTwice()
          {DimWorldLines::wake, DimWorldLines::wake, DimWorldLines::red, DimWorldLines::red}) {
         QCOMPARE(world.readLine(), line);
     }
+}
+
+void TestDimPolls::pollKeepsAWakeThatWaits()
+{
+    DimWorld world;
+    world.startDimming();
+    QVERIFY(world.wakePending()); // of the start: nobody has asked yet
+    world.poll();
+    QVERIFY(world.wakePending());
+}
+
+void TestDimPolls::startsAfterTheSettings()
+{
+    TestWindow world;
+    world.writeSettings("backlight_on=true\nbrightlevel=100\nAutoDim=true\n");
+    world.construct();
+    const QVector<int> before = pendingSingleShots();
+    world.window->delayedApply();
+    QVector<int> added = pendingSingleShots();
+    for (const int time : before) {
+        added.removeOne(time);
+    }
+    QCOMPARE(added, QVector<int>{5000});
+}
+
+void TestDimPolls::loadingTheSettingsIsActivity()
+{
+    DimWorld world;
+    world.startDimming();
+    world.clock += 4800;
+    world.window->LoadSettings();
+    world.clock += 4800;
+    world.window->timerDone();
+    QCOMPARE(world.shown(), 100);
+    world.clock += 200;
+    world.window->timerDone();
+    QCOMPARE(world.shown(), 98);
+}
+
+void TestDimPolls::idleTimeCountsFromTheEndOfApplying()
+{
+    DimWorld world;
+    world.startDimming();
+    world.writeSettings("backlight_on=true\nbrightlevel=50\nAutoDim=true\n");
+    // A disk that is slow, say.
+    QObject::connect(world.get<QSlider>("horizontalSlider"), &QSlider::valueChanged,
+                     [&world] { world.clock += 3000; });
+    world.window->delayedApply();
+    world.clock += 2500;
+    world.window->timerDone();
+    QCOMPARE(world.shown(), 50);
 }
 
 void TestDimPolls::everyUserBrightness_data()

@@ -86,6 +86,8 @@ private slots:
 
     void bandOfEveryDpi();
     void sizes();
+    void rowsKeepTheirHeights();
+    void noLargerThanTheScreen();
     void spacers();
     void spacersGrow();
     void pagesAlign();
@@ -178,6 +180,45 @@ void TestDpiFixes::sizes()
     QCOMPARE(world->get<QWidget>("frame_2")->maximumHeight(), want.bar);
     compareMinimum(*world, "frame", {0, want.frame});
     QCOMPARE(world->get<QWidget>("frame")->maximumHeight(), 90);
+}
+
+/// So that nothing jumps where an effect hides pictures and buttons.
+void TestDpiFixes::rowsKeepTheirHeights()
+{
+    const Expected &want = expected();
+    if (want.bar == 50) {
+        QSKIP("The form's own sizes, which other tests look at.");
+    }
+    struct Rows
+    {
+        const char *layout;
+        int picture;
+        int button;
+    };
+    for (const Rows &rows :
+         {Rows{"gridLayout_13", 1, 4}, Rows{"gridLayout_3", 1, 3}, Rows{"gridLayout_6", 1, 3},
+          Rows{"gridLayout_12", 1, 3}, Rows{"gridLayout_14", 1, 3}, Rows{"gridLayout_11", 2, 4}}) {
+        const auto *const layout =
+            world->window->findChild<QGridLayout *>(QLatin1String(rows.layout));
+        QCOMPARE(layout->rowMinimumHeight(rows.picture),
+                 qMax(want.full.height(), want.stripe.height()));
+        QCOMPARE(layout->rowMinimumHeight(rows.button), want.colourButton);
+    }
+}
+
+/// However wide the desktop's font is.
+void TestDpiFixes::noLargerThanTheScreen()
+{
+    const QFont before = QApplication::font();
+    QFont wide = before;
+    wide.setPixelSize(90);
+    QApplication::setFont(wide);
+    init();
+    const QSize size = world->window->size();
+    const QSize most = world->window->screen()->availableSize().expandedTo(expected().window);
+    QApplication::setFont(before);
+    QVERIFY2(size.width() <= most.width() && size.height() <= most.height(),
+             qPrintable(QStringLiteral("%1 x %2").arg(size.width()).arg(size.height())));
 }
 
 void TestDpiFixes::spacers()

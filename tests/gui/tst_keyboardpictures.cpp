@@ -13,6 +13,9 @@ private slots:
     void componentBeyond255();
     void tintKeepsTheShape();
     void pictureWithoutAlphaIsTinted();
+    void densePictureStaysDense();
+    void files();
+    void zoneTakesTheTintFromTheWhole();
     void tintPictures_data();
     void tintPictures();
     void tintWithoutPicture();
@@ -62,6 +65,38 @@ void TestKeyboardPictures::pictureWithoutAlphaIsTinted()
     image.fill(QColor(10, 20, 30));
     const QImage result = tinted(QPixmap::fromImage(image), QColor(255, 0, 0, 30)).toImage();
     QCOMPARE(result.pixelColor(0, 0), QColor(255, 0, 0, 30));
+}
+
+void TestKeyboardPictures::densePictureStaysDense()
+{
+    QPixmap picture(4, 2);
+    picture.fill(Qt::white);
+    picture.setDevicePixelRatio(2);
+    const QPixmap result = tinted(picture, QColor(255, 0, 0, 30));
+    QCOMPARE(result.devicePixelRatio(), 2.0);
+    QCOMPARE(result.size(), QSize(4, 2));
+    QCOMPARE(result.toImage().pixelColor(3, 1), QColor(255, 0, 0, 30));
+}
+
+void TestKeyboardPictures::files()
+{
+    QCOMPARE(pictureFile(KeyboardPicture::Left), QStringLiteral("branding/keyboard_left.png"));
+    QCOMPARE(pictureFile(KeyboardPicture::Centre), QStringLiteral("branding/keyboard_center.png"));
+    QCOMPARE(pictureFile(KeyboardPicture::Right), QStringLiteral("branding/keyboard_right.png"));
+    QCOMPARE(pictureFile(KeyboardPicture::Full), QStringLiteral("branding/keyboard_full.png"));
+    QCOMPARE(pictureFile(KeyboardPicture::Stripe), QStringLiteral("branding/stripe_lidled.png"));
+}
+
+/// A keyboard in zones has no one colour.
+void TestKeyboardPictures::zoneTakesTheTintFromTheWhole()
+{
+    TestWindow world;
+    startWithPictures(world);
+    const auto &whole = *world.get<QLabel>("keyboard_full");
+    world.window->SetZoneColor(4, QStringLiteral("0 255 0"));
+    QCOMPARE(shownColour(whole), QColor(0, 255, 0, 30));
+    world.window->SetZoneColor(2, QStringLiteral("0 0 255"));
+    QCOMPARE(shownColour(whole).alpha(), 0);
 }
 
 void TestKeyboardPictures::tintPictures_data()

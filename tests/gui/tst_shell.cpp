@@ -1,3 +1,4 @@
+#include "tests/gui/raisewatcher.h"
 #include "tests/support/testwindow.h"
 
 #include <QAbstractButton>
@@ -41,6 +42,7 @@ private slots:
     void eventFilterKeepsNothingBack();
     void closeButtonCloses();
     void closeButtonHides();
+    void shownIsRaised();
     void minimise();
     void dragging();
     void draggingByWhatLiesOnTheWindow_data();
@@ -121,6 +123,16 @@ void TestShell::closeButtonHides()
     QVERIFY(!window.isVisible());
     window.ShowInterface();
     QVERIFY(window.isVisible());
+}
+
+/// Also above windows that the desktop would leave in front.
+void TestShell::shownIsRaised()
+{
+    TestWindow world;
+    MainWindow &window = world.start();
+    const RaiseWatcher raises(window);
+    window.ShowInterface();
+    QCOMPARE(raises.count, 1);
 }
 
 void TestShell::minimise()

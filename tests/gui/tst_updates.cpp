@@ -1,3 +1,4 @@
+#include "raisewatcher.h"
 #include "updateworld.h"
 
 #include <QElapsedTimer>
@@ -191,11 +192,13 @@ void TestUpdates::windowComesForward()
     world.server.answerWith("1.0.5");
     BoxWatcher watcher(QMessageBox::No);
     bool inFront = false;
+    const RaiseWatcher raises(window);
     watcher.look = [&](const QMessageBox &box) {
         inFront = !window.isMinimized() && QTest::qWaitFor([&] { return box.isActiveWindow(); });
     };
     window.SetAppVersion();
     QVERIFY(inFront);
+    QCOMPARE(raises.count, 1);
 }
 
 void TestUpdates::answers_data()

@@ -29,6 +29,7 @@ private slots:
     void servedWhileWaiting();
     void pressedTwice();
     void closedWhileWaiting();
+    void closedBesideAnotherWindow();
     void closedWhileConstructing();
     void closedWhileAsking();
     void askedForWhileConstructing_data();
@@ -122,6 +123,28 @@ void TestUpdateWaits::closedWhileWaiting()
     // Given up, not answered: what the check before has found stays.
     QCOMPARE(world.label("Label_SoftwareServerVersion"), QStringLiteral("Latest: 1.0.4"));
     QCOMPARE(world.label("Label_SoftwareVersion_desc"), latestText);
+}
+
+/// Where closing does not end the program, it ends the wait all the same.
+void TestUpdateWaits::closedBesideAnotherWindow()
+{
+    UpdateWorld world("1.0.4");
+    MainWindow &window = world.start();
+    QWidget other;
+    other.show();
+    window.show();
+    world.server.answer.clear();
+    world.server.then = VersionServer::Then::KeepOpen;
+    QTimer::singleShot(50, &window, SLOT(close()));
+    bool given = true;
+    QTimer watchdog;
+    QObject::connect(&watchdog, &QTimer::timeout, [&given] {
+        given = false;
+        QCoreApplication::exit(99);
+    });
+    watchdog.start(5000);
+    window.SetAppVersion();
+    QVERIFY(given);
 }
 
 void TestUpdateWaits::closedWhileConstructing()

@@ -51,8 +51,13 @@ void StandIns::add(const QString &path, int waitMs) const
         file += QStringLiteral(".exe");
     }
     copyRecorder(file);
+    makeWait(QFileInfo(file).completeBaseName(), waitMs);
+}
+
+void StandIns::makeWait(const QString &name, int waitMs) const
+{
     if (waitMs > 0) {
-        writeFile(waitFile(QFileInfo(file).completeBaseName()), QByteArray::number(waitMs));
+        writeFile(waitFile(name), QByteArray::number(waitMs));
     }
 }
 
@@ -61,9 +66,10 @@ void StandIns::hurry(const QString &name) const
     QFile::remove(waitFile(name));
 }
 
-void StandIns::addBatch(const QString &path) const
+void StandIns::addBatch(const QString &path, int waitMs) const
 {
     const QString file = folder + QLatin1Char('/') + path;
+    makeWait(QFileInfo(file).fileName(), waitMs);
     if (!programsHaveASuffix()) {
         copyRecorder(file);
         return;

@@ -26,7 +26,7 @@ public:
     /// @param name without ".exe"
     void hurry(const QString &name) const;
     /// Makes a batch file, or what stands for one, that does the same.
-    void addBatch(const QString &path) const;
+    void addBatch(const QString &path, int waitMs = 0) const;
 
     /// One line for each run, in the order of their starts: the program's name without ".exe" and
     /// its arguments, with blanks between.
@@ -37,6 +37,7 @@ public:
 private:
     QString recordFile() const;
     QString waitFile(const QString &name) const;
+    void makeWait(const QString &name, int waitMs) const;
     QStringList lines() const;
 
     QString folder;
