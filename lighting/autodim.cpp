@@ -7,30 +7,30 @@ constexpr int pointsPerPoll = 2;
 const KeyPresses mouseCodes(0b111'1110);
 
 /// Right across the wrap of the 32 bits, and negative for input noted after the time was taken.
-qint32 elapsed(const DimInputs &inputs)
+qint32 elapsed(const DimState &state, const DimPoll &poll)
 {
-    return static_cast<qint32>(inputs.now - inputs.lastActivity);
+    return static_cast<qint32>(poll.now - state.lastActivity);
 }
 
-DimStep unchanged(const DimInputs &inputs)
+DimStep unchanged(const DimState &state, const DimPoll &poll)
 {
     DimStep step;
-    step.brightness = inputs.brightness;
-    step.active = inputs.active;
+    step.state = state;
+    step.brightness = poll.brightness;
     return step;
 }
 
-DimStep darker(const DimInputs &inputs)
+DimStep darker(const DimState &state, const DimPoll &poll)
 {
-    DimStep step = unchanged(inputs);
-    if (inputs.brightness == 0) {
+    DimStep step = unchanged(state, poll);
+    if (poll.brightness == 0) {
         step.told = DimPhase::Dimmed;
         return step;
     }
-    if (inputs.brightness <= pointsPerPoll) {
+    if (poll.brightness <= pointsPerPoll) {
         return step; // a user's brightness of 1 or 2 stays, on purpose
     }
-    step.active = true;
+    step.state.active = true;
     step.brightness -= pointsPerPoll;
     step.told = DimPhase::Dimming;
     if (step.brightness <= pointsPerPoll) {
@@ -42,11 +42,11 @@ DimStep darker(const DimInputs &inputs)
     return step;
 }
 
-DimStep awake(const DimInputs &inputs)
+DimStep awake(const DimState &state, const DimPoll &poll)
 {
-    DimStep step = unchanged(inputs);
-    step.brightness = inputs.userBrightness;
-    step.active = false;
+    DimStep step = unchanged(state, poll);
+    step.brightness = state.userBrightness;
+    step.state.active = false;
     step.wake = true;
     step.sliderEnabled = true;
     step.told = DimPhase::Watching;
@@ -60,13 +60,13 @@ bool countsAsInput(const KeyPresses &presses, bool mouseWakes)
     return (mouseWakes ? presses : presses & ~mouseCodes).any();
 }
 
-DimStep dimStep(const DimInputs &inputs)
+DimStep dimStep(const DimState &state, const DimPoll &poll)
 {
-    if (inputs.effectChosen) {
-        return unchanged(inputs);
+    if (poll.effectChosen) {
+        return unchanged(state, poll);
     }
-    if (elapsed(inputs) >= inputs.idleTime) {
-        return darker(inputs);
+    if (elapsed(state, poll) >= state.idleTime) {
+        return darker(state, poll);
     }
-    return inputs.brightness < inputs.userBrightness ? awake(inputs) : unchanged(inputs);
+    return poll.brightness < state.userBrightness ? awake(state, poll) : unchanged(state, poll);
 }

@@ -17,7 +17,6 @@
 namespace {
 
 constexpr int brightnessPeriodMs = 100;
-const QString companionSegment = QStringLiteral("DashportSharedMem");
 
 } // namespace
 
@@ -29,7 +28,7 @@ MainWindow::MainWindow(AppSettings appSettings, Platform &system, PrimaryRole &r
     , platform(system)
     , primaryRole(role)
     , clock(std::move(systemClock))
-    , companionMemory(companionSegment)
+    , companion(system)
     , eventFilterForResume(system)
 {
     ToggleAccessible::install();
@@ -45,18 +44,13 @@ MainWindow::MainWindow(AppSettings appSettings, Platform &system, PrimaryRole &r
     pickerController = std::make_unique<MainController>(ui->hSelector, ui->svSelector,
                                                         colourProcessor.get(), this);
 
-    if (companionMemory.isAttached()) {
-        companionMemory.detach();
-    }
-    // The same segment by the name that takes no lock along: the reader takes it, without waiting.
-    companionMemory.setNativeKey(companionMemory.nativeKey());
     companionTimer = new QTimer(this);
     connect(companionTimer, SIGNAL(timeout()), this, SLOT(sharedmemtimer()));
     QCoreApplication::instance()->installNativeEventFilter(&eventFilterForResume);
     connect(&eventFilterForResume, SIGNAL(emitawake()), this, SLOT(suspendresumeaction()));
     dimTimer = new QTimer(this);
     connect(dimTimer, SIGNAL(timeout()), this, SLOT(timerDone()));
-    brightnessTimer = new QTimer(this);
+    auto *const brightnessTimer = new QTimer(this);
     connect(brightnessTimer, SIGNAL(timeout()), this, SLOT(brightnessapply()));
     brightnessTimer->start(brightnessPeriodMs);
 

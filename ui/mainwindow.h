@@ -3,7 +3,9 @@
 #include "app/appsettings.h"
 #include "colorpicker/colorprocessor.h"
 #include "colorpicker/maincontroller.h"
+#include "lighting/autodim.h"
 #include "lighting/commandline.h"
+#include "lighting/companionreader.h"
 #include "lighting/lightingstate.h"
 #include "lighting/myeventfilter.h"
 #include "lighting/serviceendpoint.h"
@@ -12,7 +14,6 @@
 
 #include <QMainWindow>
 #include <QPoint>
-#include <QSharedMemory>
 #include <QString>
 #include <QSystemTrayIcon>
 #include <QTimer>
@@ -92,15 +93,13 @@ public slots:
     /// @param a, b, c red, green, blue; @param d alpha; @param img number of a KeyboardPicture
     void setKeyboardImageColor(int a, int b, int c, int d, int img);
 
-    // mainwindow_dimming.cpp
+    // mainwindow_dimming.cpp: the slider is moved, by idling and by the companion application
     void on_CheckBox_AutoDim_clicked();
     void on_comboDimValue_currentIndexChanged(int index);
     void on_touch_mouse_wake_clicked();
     void starttimerdelay();
     void timerDone();
-
-    // mainwindow_companion.cpp: what the companion application publishes; two names, one body
-    void loadFromSharedMem();
+    void loadFromSharedMem(); ///< the same as sharedmemtimer()
     void sharedmemtimer();
 
     // mainwindow_colours.cpp: the picker and its targets
@@ -194,7 +193,6 @@ private:
     void takeText(QLineEdit &field, QColor (ColorProcessor::*set)(const QString &));
     void enlargeForBand(const DpiBand &band);
     void updateIdleTime();
-    QByteArray companionSegmentContents();
 
     std::optional<QString> fetchLatestVersion();
     void showVersions(const QString &installed, const QString &latest);
@@ -224,15 +222,9 @@ private:
 
     /// Settings are being loaded: the lighting slots neither store nor raise a wake.
     bool loadingSettings = true;
-    /// The user's brightness, 0..100; what auto-dim returns to.
-    qint32 savedBrightness = 0;
+    DimState dim;
     /// Slider value that brightnessapply() last acted on.
     qint32 lastAppliedBrightness = nothingApplied;
-    /// The slider has been lowered by auto-dim, so its moves are not the user's.
-    bool autoDimActive = false;
-    /// Low 32 bits of the clock at the last input that counts.
-    quint32 lastActivityMs = 0;
-    qint32 dimTimeoutMs = 0;
 
     /// The user has asked for the check of the version and wants to hear of no update, too. Stays
     /// set when there is one, on purpose.
@@ -251,16 +243,12 @@ private:
     /// The selectors announce colours that are steps to the one that was asked for.
     bool colourOnItsWay = false;
 
-    QSharedMemory companionMemory;
-    /// The number that the companion published last; no brightness is the first one.
-    qint32 lastCompanionBrightness = 9999;
+    CompanionReader companion;
     MyEventFilter eventFilterForResume;
     QTimer *companionTimer = nullptr;
     QTimer *dimTimer = nullptr;
-    QTimer *brightnessTimer = nullptr;
 
     std::unique_ptr<QMenu> trayMenu; // a tray icon does not own its menu
-    QSystemTrayIcon *trayIcon = nullptr;
     bool dragging = false;
     QPoint pressPosition;
 };

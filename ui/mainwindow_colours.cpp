@@ -94,7 +94,7 @@ void MainWindow::openPicker(int target)
     ui->tabWidget_2->hide();
     ui->tabWidget->hide();
     ui->colorpickframe->show();
-    lastActivityMs = now();
+    dim.lastActivity = now();
     if (colours.at(index)->isEmpty()) {
         showNoColour();
     }

@@ -2,7 +2,6 @@
 
 #include "ui_mainwindow.h"
 
-#include "lighting/autodim.h"
 #include "lighting/idletimes.h"
 #include "system/platform.h"
 #include "ui/messages.h"
@@ -17,7 +16,7 @@ void MainWindow::updateIdleTime()
 {
     const int index = ui->comboDimValue->currentIndex();
     if (index >= 0 && index < static_cast<int>(idleTimesMs.size())) {
-        dimTimeoutMs = idleTimesMs.at(static_cast<std::size_t>(index));
+        dim.idleTime = idleTimesMs.at(static_cast<std::size_t>(index));
     }
 }
 
@@ -41,37 +40,38 @@ void MainWindow::on_CheckBox_AutoDim_clicked()
         showBrightness(Messages::brightnessSuffix(DimPhase::Watching));
         return;
     }
-    autoDimActive = false;
+    dim.active = false;
     dimTimer->stop();
-    ui->horizontalSlider->setValue(savedBrightness);
+    ui->horizontalSlider->setValue(dim.userBrightness);
     ui->horizontalSlider->setEnabled(true);
     showBrightness("%");
 }
 
 void MainWindow::starttimerdelay()
 {
-    lastActivityMs = now();
+    dim.lastActivity = now();
     updateIdleTime();
     dimTimer->start(pollPeriodMs);
 }
 
 void MainWindow::timerDone()
 {
-    const quint32 current = now();
+    DimPoll poll;
+    poll.now = now();
     const KeyPresses presses = platform.keysPressedSinceLastPoll();
     if (countsAsInput(presses, ui->touch_mouse_wake->isChecked())) {
-        lastActivityMs = now();
+        dim.lastActivity = now();
     }
     QSlider &slider = *ui->horizontalSlider;
-    const DimStep step =
-        dimStep({current, lastActivityMs, dimTimeoutMs, slider.value(), savedBrightness,
-                 autoDimActive, ui->Combo_Effect->currentIndex() != 0});
+    poll.brightness = slider.value();
+    poll.effectChosen = ui->Combo_Effect->currentIndex() != 0;
+    const DimStep step = dimStep(dim, poll);
 
     wake.wakePending = wake.wakePending || step.wake;
     // Raised before the slider moves and cleared after it, so that neither move is the user's.
-    autoDimActive = autoDimActive || step.active;
+    dim.active = dim.active || step.state.active;
     slider.setValue(step.brightness);
-    autoDimActive = step.active;
+    dim = step.state;
     if (step.sliderEnabled) {
         slider.setEnabled(*step.sliderEnabled);
     }
@@ -83,5 +83,24 @@ void MainWindow::timerDone()
         // The words show no brightness now: a wake before the next brightnessapply() may bring back
         // the very value that it applied last.
         lastAppliedBrightness = nothingApplied;
+    }
+}
+
+void MainWindow::loadFromSharedMem()
+{
+    sharedmemtimer();
+}
+
+void MainWindow::sharedmemtimer()
+{
+    const std::optional<qint32> published = companion.newBrightness();
+    if (!published) {
+        return;
+    }
+    QSlider &slider = *ui->horizontalSlider;
+    dim.userBrightness = qBound(slider.minimum(), *published, slider.maximum());
+    if (!ui->CheckBox_AutoDim->isChecked()) {
+        slider.setValue(dim.userBrightness);
+        showBrightness("% (set by Dashport)");
     }
 }

@@ -121,9 +121,9 @@ void MainWindow::brightnessapply()
 void MainWindow::on_horizontalSlider_valueChanged(int /*value*/)
 {
     showBrightness("%");
-    if (!autoDimActive) {
-        savedBrightness = ui->horizontalSlider->value();
-        settings.write(SettingKeys::brightLevel, savedBrightness);
+    if (!dim.active) {
+        dim.userBrightness = ui->horizontalSlider->value();
+        settings.write(SettingKeys::brightLevel, dim.userBrightness);
     }
 }
 
@@ -217,7 +217,7 @@ void MainWindow::enableStripePage(bool enabled)
 
 void MainWindow::suspendresumeaction()
 {
-    lastActivityMs = now();
+    dim.lastActivity = now();
     lighting.blacken();
     if (settings.read(SettingKeys::backlightOn)) {
         wake.wakePending = true;

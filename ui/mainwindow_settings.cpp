@@ -55,7 +55,7 @@ void MainWindow::LoadSettings()
         DarkStyle::layOutTabs(ui->tabWidget_2->tabBar());
         lighting.stripeWord = wordText(blackWord(Zone::Stripe));
         lighting.centreWord = wordText(DeviceWords::loading);
-        lastActivityMs = now();
+        dim.lastActivity = now();
         QTimer::singleShot(applyDelayMs, this, SLOT(delayedApply()));
     }
 }
@@ -85,14 +85,14 @@ void MainWindow::delayedApply()
     ui->backlight_on->setChecked(backlightOn);
     ui->backlight_off->setChecked(!backlightOn);
 
-    lastActivityMs = now();
+    dim.lastActivity = now();
     lighting.centreWord = wordText(DeviceWords::applying);
     ui->comboDimValue->setCurrentIndex(settings.read(SettingKeys::dimTimer));
     ui->horizontalSlider->setValue(settings.read(SettingKeys::brightLevel));
-    savedBrightness = ui->horizontalSlider->value();
+    dim.userBrightness = ui->horizontalSlider->value();
     // A tick during loading noted its brightness and applied nothing.
     lastAppliedBrightness = nothingApplied;
-    autoDimActive = false; // the slider is the user's again, also where an effect keeps polls off
+    dim.active = false; // the slider is the user's again, also where an effect keeps polls off
     showBrightness("%");
     lighting.stripeLidColor = settings.read(SettingKeys::stripeLid);
     SetZoneColor(5, lighting.stripeLidColor);
@@ -111,7 +111,7 @@ void MainWindow::delayedApply()
     loadingSettings = false;
     // After loading, so that the effect's slot applies it.
     applyStoredEffect();
-    lastActivityMs = now();
+    dim.lastActivity = now();
 }
 
 void MainWindow::applyStoredEffect()

@@ -21,7 +21,7 @@
 
 void MainWindow::systemtraystart()
 {
-    trayIcon = new QSystemTrayIcon(this);
+    auto *const trayIcon = new QSystemTrayIcon(this);
     trayIcon->setIcon(QIcon(QStringLiteral("branding/lumikey_system_tray.png")));
     trayIcon->setVisible(true);
     connect(trayIcon, SIGNAL(activated(QSystemTrayIcon::ActivationReason)), this,

@@ -15,7 +15,7 @@ constexpr quint32 noon = 1'000'000'000;
 /// enabled and what the user is told.
 QString told(const DimStep &step)
 {
-    QString text = QStringLiteral("%1/%2").arg(step.brightness).arg(step.active);
+    QString text = QStringLiteral("%1/%2").arg(step.brightness).arg(step.state.active);
     if (step.wake) {
         text += QStringLiteral(" wake");
     }
@@ -32,11 +32,20 @@ QString told(const DimStep &step)
     return text;
 }
 
+DimPoll pollAt(quint32 now, int brightness)
+{
+    DimPoll poll;
+    poll.now = now;
+    poll.brightness = brightness;
+    return poll;
+}
+
 /// A keyboard that is polled ten times a second, by a clock that the test moves.
 struct Night
 {
     qint64 clock = noon;
-    DimInputs state;
+    DimState state;
+    int brightness = 0; ///< the slider
     bool enabled = true;
     int steps = 0;
     int wakes = 0;
@@ -44,24 +53,24 @@ struct Night
     qint64 firstStepAt = -1; ///< on the clock
     qint64 darkAt = -1;
 
-    Night(int brightness, qint32 idleTime, qint64 start = noon)
+    Night(int itsBrightness, qint32 idleTime, qint64 start = noon)
         : clock(start)
+        , brightness(itsBrightness)
     {
         state.lastActivity = static_cast<quint32>(clock);
         state.idleTime = idleTime;
-        state.brightness = brightness;
         state.userBrightness = brightness;
     }
 
     DimStep poll(bool input = false)
     {
         clock += pollMs;
-        state.now = static_cast<quint32>(clock);
+        const DimPoll now = pollAt(static_cast<quint32>(clock), brightness);
         if (input) {
-            state.lastActivity = state.now;
+            state.lastActivity = now.now;
         }
-        const DimStep step = dimStep(state);
-        if (step.brightness < state.brightness) {
+        const DimStep step = dimStep(state, now);
+        if (step.brightness < brightness) {
             ++steps;
             firstStepAt = firstStepAt < 0 ? clock : firstStepAt;
         }
@@ -71,8 +80,8 @@ struct Night
         }
         wakes += step.wake ? 1 : 0;
         enabled = step.sliderEnabled.value_or(enabled);
-        state.brightness = step.brightness;
-        state.active = step.active;
+        brightness = step.brightness;
+        state = step.state;
         return step;
     }
 
@@ -153,14 +162,12 @@ void TestAutoDim::onePoll()
     QFETCH(int, brightness);
     QFETCH(int, userBrightness);
     QFETCH(bool, active);
-    DimInputs inputs;
-    inputs.now = noon;
-    inputs.lastActivity = noon - fiveSeconds + (idle ? 0 : 1);
-    inputs.idleTime = fiveSeconds;
-    inputs.brightness = brightness;
-    inputs.userBrightness = userBrightness;
-    inputs.active = active;
-    QTEST(told(dimStep(inputs)), "expected");
+    DimState state;
+    state.lastActivity = noon - fiveSeconds + (idle ? 0 : 1);
+    state.idleTime = fiveSeconds;
+    state.userBrightness = userBrightness;
+    state.active = active;
+    QTEST(told(dimStep(state, pollAt(noon, brightness))), "expected");
 }
 
 void TestAutoDim::effectStopsEverything()
@@ -168,9 +175,14 @@ void TestAutoDim::effectStopsEverything()
     for (const quint32 idle : {0U, 4999U, 5000U, 3'600'000U}) {
         for (const int brightness : {0, 2, 50, 100}) {
             for (const bool active : {false, true}) {
-                const DimInputs inputs{noon, noon - idle, fiveSeconds, brightness,
-                                       100,  active,      true};
-                QCOMPARE(told(dimStep(inputs)),
+                DimState state;
+                state.lastActivity = noon - idle;
+                state.idleTime = fiveSeconds;
+                state.userBrightness = 100;
+                state.active = active;
+                DimPoll poll = pollAt(noon, brightness);
+                poll.effectChosen = true;
+                QCOMPARE(told(dimStep(state, poll)),
                          QStringLiteral("%1/%2").arg(brightness).arg(active));
             }
         }
@@ -203,8 +215,11 @@ void TestAutoDim::elapsedTime()
     QFETCH(quint32, now);
     QFETCH(quint32, lastActivity);
     QFETCH(bool, dims);
-    const DimStep step = dimStep({now, lastActivity, fiveSeconds, 100, 100, false, false});
-    QCOMPARE(step.brightness, dims ? 98 : 100);
+    DimState state;
+    state.lastActivity = lastActivity;
+    state.idleTime = fiveSeconds;
+    state.userBrightness = 100;
+    QCOMPARE(dimStep(state, pollAt(now, 100)).brightness, dims ? 98 : 100);
 }
 
 void TestAutoDim::ramp_data()
@@ -220,7 +235,7 @@ void TestAutoDim::ramp()
     QFETCH(int, brightness);
     Night night(brightness, fiveSeconds);
     night.pollFor(fiveSeconds - pollMs);
-    QCOMPARE(night.state.brightness, brightness);
+    QCOMPARE(night.brightness, brightness);
     QVERIFY(!night.state.active);
 
     // By two points until two or fewer are left, which go at once.
@@ -242,10 +257,10 @@ void TestAutoDim::rampStopsAtInput()
 {
     Night night(99, fiveSeconds);
     night.pollFor(fiveSeconds + 10 * pollMs);
-    QCOMPARE(night.state.brightness, 99 - 2 * 11);
+    QCOMPARE(night.brightness, 99 - 2 * 11);
     QCOMPARE(told(night.poll(true)), QStringLiteral("99/0 wake enable watching"));
     night.pollFor(fiveSeconds - pollMs);
-    QCOMPARE(night.state.brightness, 99);
+    QCOMPARE(night.brightness, 99);
     QCOMPARE(told(night.poll()), QStringLiteral("97/1 dimming"));
 }
 
@@ -305,10 +320,10 @@ void TestAutoDim::wholeNight()
     qint64 pause = idleTime / 2; // shorter than the idle time at first, longer each time
     for (; night.clock + pause < morning; pause += idleTime / 2 + 700) {
         night.pollFor(pause);
-        QVERIFY(dims || night.state.brightness == brightness);
+        QVERIFY(dims || night.brightness == brightness);
         sleeps += dims && pause >= idleTime + rampMs ? 1 : 0;
         night.poll(true);
-        QCOMPARE(night.state.brightness, brightness);
+        QCOMPARE(night.brightness, brightness);
         QVERIFY(night.enabled);
         QVERIFY(!night.state.active);
     }
