@@ -27,6 +27,8 @@ class PrimaryRole;
 class QLineEdit;
 class QMenu;
 class ServiceServer;
+enum class ColourTarget;
+struct ColourTargetRow;
 struct DpiBand;
 struct Message;
 
@@ -79,7 +81,7 @@ public slots:
 
     // mainwindow_lighting.cpp: choices become device words
     uint GetColour(byte r, byte g, byte b, Zone zone);
-    /// @param kind 1 left, 2 centre, 3 right, 4 whole keyboard, 5 stripe / lid; others do nothing
+    /// @param kind number of a ColourTarget; others do nothing
     void SetZoneColor(int kind, const QString &colour);
     void brightnessapply();
     void on_horizontalSlider_valueChanged(int value);
@@ -176,8 +178,12 @@ private:
     void setLightingControlsEnabled(bool enabled);
 
     void applyAllColours();
+    void setColour(ColourTarget target, const QString &colour);
+    void colourZone(const ColourTargetRow &row, const QString &colour);
     void setZoneWord(Zone zone, const QString &colour);
-    void tintPicture(int img, const QString &colour);
+    void tintPreview(const ColourTargetRow &row, const QString &colour);
+    void showUncoloured(const ColourTargetRow &row);
+    void showPreview(const ColourTargetRow &row, const QColor &tint);
     void rememberSingleColour(bool selected);
     void showEffect(bool chosen);
     void showBrightness(const char *suffix);
@@ -185,7 +191,7 @@ private:
     QString rgbText() const override;
     void setRgbText(const QString &text) override;
     void connectColourPicker();
-    void openPicker(int target);
+    void openPicker(ColourTarget target);
     void closePicker();
     void leaveTextField(bool forward);
     void showNoColour();
@@ -234,8 +240,8 @@ private:
     bool askedFor = false;
     bool sizesAdapted = false;
 
-    /// What the open picker edits: a kind of SetZoneColor().
-    qint32 pickTarget = 0;
+    /// What the picker edits, or edited last.
+    std::optional<ColourTarget> pickTarget;
     std::unique_ptr<ColorProcessor> colourProcessor;
     std::unique_ptr<MainController> pickerController;
     /// What worked the buttons that open and close the picker.

@@ -1,25 +1,15 @@
 #include "ui/mainwindow.h"
 
-#include "ui_mainwindow.h"
-
 #include "colorpicker/basiccolours.h"
 #include "colorpicker/colortyping.h"
 #include "colorpicker/hextyping.h"
 #include "colorpicker/pickergeometry.h"
 #include "colorpicker/services.h"
-
-#include <array>
+#include "ui/colourtargets.h"
 
 namespace {
 
 constexpr int messageMs = 3000;
-
-/// The prompt of each target, by its number less one.
-constexpr std::array<const char *, 5> prompts{
-    "Select Left Keyboard Zone Color:",  "Select Center Keyboard Zone Color:",
-    "Select Right Keyboard Zone Color:", "Select Keyboard Color:",
-    "Select Stripe / LCD Lid Color:",
-};
 
 /// Replaces a field's text under the user's cursor.
 void setTextKeepingCursor(QLineEdit &field, const QString &text)
@@ -82,25 +72,22 @@ void MainWindow::setRgbText(const QString &text)
     ui->leRGB->setText(text);
 }
 
-void MainWindow::openPicker(int target)
+void MainWindow::openPicker(ColourTarget target)
 {
-    const std::array<const QString *, 5> colours{
-        &lighting.leftZoneColor,   &lighting.centerZoneColor, &lighting.rightZoneColor,
-        &lighting.singleZoneColor, &lighting.stripeLidColor,
-    };
-    const auto index = static_cast<std::size_t>(target) - 1;
+    const ColourTargetRow &row = rowOf(target);
     pickTarget = target;
     // Hidden first: shown beside the tabs, the panel would stretch the window for good.
     ui->tabWidget_2->hide();
     ui->tabWidget->hide();
     ui->colorpickframe->show();
     dim.lastActivity = now();
-    if (colours.at(index)->isEmpty()) {
+    const QString &colour = lighting.*row.colour;
+    if (colour.isEmpty()) {
         showNoColour();
     }
-    updateColorRGB(*colours.at(index));
+    updateColorRGB(colour);
     ui->leRGB->clearFocus();
-    ui->label_8->setText(QString::fromLatin1(prompts.at(index)));
+    ui->label_8->setText(QString::fromLatin1(row.prompt));
     ui->comboBox_BasicColors->setCurrentIndex(basicColourIndex(ui->leRGB->text()));
     ui->svSelector->setFocus(pickerInput.wasMouse() ? Qt::MouseFocusReason : Qt::OtherFocusReason);
 }
@@ -121,76 +108,58 @@ void MainWindow::closePicker()
     ui->colorpickframe->hide();
     ui->tabWidget_2->show();
     ui->tabWidget->show();
-    const std::array<QWidget *, 5> openers{ui->colorpick1, ui->colorpick2, ui->colorpick3,
-                                           ui->colorpick4, ui->colorpick5};
-    const auto index = static_cast<std::size_t>(pickTarget) - 1;
-    if (index < openers.size() && !pickerInput.wasMouse()) {
-        openers.at(index)->setFocus(Qt::OtherFocusReason);
+    if (pickTarget && !pickerInput.wasMouse()) {
+        (*ui.*rowOf(*pickTarget).opener)->setFocus(Qt::OtherFocusReason);
     }
 }
 
 void MainWindow::on_colorpick1_clicked()
 {
-    openPicker(1);
+    openPicker(ColourTarget::Left);
 }
 
 void MainWindow::on_colorpick2_clicked()
 {
-    openPicker(2);
+    openPicker(ColourTarget::Centre);
 }
 
 void MainWindow::on_colorpick3_clicked()
 {
-    openPicker(3);
+    openPicker(ColourTarget::Right);
 }
 
 void MainWindow::on_colorpick4_clicked()
 {
-    openPicker(4);
+    openPicker(ColourTarget::Keyboard);
 }
 
 void MainWindow::on_colorpick5_clicked()
 {
-    openPicker(5);
+    openPicker(ColourTarget::Stripe);
 }
 
 void MainWindow::on_pushButton_clicked()
 {
     closePicker();
     const QString colour = ui->leRGB->text(); // stored as typed, also when it is no colour
-    switch (pickTarget) {
-    case 1:
-        settings.write(SettingKeys::leftColour, colour);
-        lighting.leftZoneColor = colour;
-        break;
-    case 2:
-        settings.write(SettingKeys::centreColour, colour);
-        lighting.centerZoneColor = colour;
-        break;
-    case 3:
-        settings.write(SettingKeys::rightColour, colour);
-        lighting.rightZoneColor = colour;
-        break;
-    case 4:
-        for (const Key<QString> &key : {SettingKeys::leftColour, SettingKeys::centreColour,
-                                        SettingKeys::rightColour, SettingKeys::singleColour}) {
-            settings.write(key, colour);
+    if (!pickTarget) {
+        return; // never opened
+    }
+    const auto keep = [&](ColourTarget target) {
+        settings.write(*rowOf(target).key, colour);
+        lighting.*rowOf(target).colour = colour;
+    };
+    if (*pickTarget == ColourTarget::Keyboard) {
+        for (const ColourTarget zone : keyboardZones) {
+            keep(zone);
         }
-        lighting.rightZoneColor = colour;
-        lighting.leftZoneColor = colour;
-        lighting.centerZoneColor = colour;
-        lighting.singleZoneColor = colour;
+        keep(ColourTarget::Keyboard);
         lighting.singleColorSelected = true;
         settings.write(SettingKeys::singleColourLast, true);
-        break;
-    case 5:
-        settings.write(SettingKeys::stripeLid, colour);
-        lighting.stripeLidColor = colour;
-        break;
-    default:
-        break;
+    } else {
+        keep(*pickTarget);
     }
-    SetZoneColor(pickTarget, colour);
+    setColour(*pickTarget, colour);
 }
 
 void MainWindow::on_pushButton_2_clicked()

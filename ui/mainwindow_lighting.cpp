@@ -1,11 +1,9 @@
 #include "ui/mainwindow.h"
 
-#include "ui_mainwindow.h"
-
 #include "lighting/effects.h"
 #include "lighting/serviceserver.h"
+#include "ui/colourtargets.h"
 #include "ui/darkstyle.h"
-#include "ui/keyboardpictures.h"
 #include "ui/zonepages.h"
 
 #include <QTimer>
@@ -16,10 +14,6 @@ namespace {
 constexpr int tintAlpha = 30;
 constexpr int reloadDelayMs = 1000;
 
-constexpr int wholeKeyboardKind = 4;
-constexpr int stripeKind = 5;
-constexpr int fullPicture = static_cast<int>(KeyboardPicture::Full);
-
 } // namespace
 
 uint MainWindow::GetColour(byte r, byte g, byte b, Zone zone)
@@ -29,26 +23,40 @@ uint MainWindow::GetColour(byte r, byte g, byte b, Zone zone)
 
 void MainWindow::SetZoneColor(int kind, const QString &colour)
 {
-    if (kind >= 1 && kind <= 3) {
-        setZoneWord(static_cast<Zone>(kind - 1), colour);
-        tintPicture(kind, colour);
-        setKeyboardImageColor(0, 0, 0, 0, fullPicture);
+    if (const auto target = colourTarget(kind)) {
+        setColour(*target, colour);
+    }
+}
+
+void MainWindow::setColour(ColourTarget target, const QString &colour)
+{
+    switch (target) {
+    case ColourTarget::Left:
+    case ColourTarget::Centre:
+    case ColourTarget::Right:
+        colourZone(rowOf(target), colour);
+        showUncoloured(rowOf(ColourTarget::Keyboard));
         rememberSingleColour(false);
-    } else if (kind == wholeKeyboardKind) {
-        for (const Zone zone : {Zone::Left, Zone::Centre, Zone::Right}) {
-            setZoneWord(zone, colour);
+        break;
+    case ColourTarget::Keyboard:
+        for (const ColourTarget zone : keyboardZones) {
+            colourZone(rowOf(zone), colour);
         }
-        for (int img = 1; img <= fullPicture; ++img) {
-            tintPicture(img, colour);
-        }
+        tintPreview(rowOf(target), colour);
         rememberSingleColour(true);
-    } else if (kind == stripeKind) {
+        break;
+    case ColourTarget::Stripe:
         setZoneWord(Zone::Stripe, colour);
         // Unlike those of the keyboard, its picture shows what the word holds.
-        const ColourComponents part = wordColour(lighting.stripeWord.toUInt());
-        setKeyboardImageColor(part.red, part.green, part.blue, tintAlpha,
-                              static_cast<int>(KeyboardPicture::Stripe));
+        showPreview(rowOf(target), tintColour(wordColour(lighting.stripeWord.toUInt()), tintAlpha));
+        break;
     }
+}
+
+void MainWindow::colourZone(const ColourTargetRow &row, const QString &colour)
+{
+    setZoneWord(*row.zone, colour);
+    tintPreview(row, colour);
 }
 
 void MainWindow::setZoneWord(Zone zone, const QString &colour)
@@ -56,10 +64,20 @@ void MainWindow::setZoneWord(Zone zone, const QString &colour)
     lighting.wordOf(zone) = wordText(deviceWord(zone, colour, ui->horizontalSlider->value()));
 }
 
-void MainWindow::tintPicture(int img, const QString &colour)
+void MainWindow::tintPreview(const ColourTargetRow &row, const QString &colour)
 {
-    const ColourComponents part = scaledComponents(colour, ui->horizontalSlider->value());
-    setKeyboardImageColor(part.red, part.green, part.blue, tintAlpha, img);
+    showPreview(row,
+                tintColour(scaledComponents(colour, ui->horizontalSlider->value()), tintAlpha));
+}
+
+void MainWindow::showUncoloured(const ColourTargetRow &row)
+{
+    showPreview(row, QColor(0, 0, 0, 0));
+}
+
+void MainWindow::showPreview(const ColourTargetRow &row, const QColor &tint)
+{
+    (*ui.*row.preview)->setPixmap(tinted(QPixmap(pictureFile(row.picture)), tint));
 }
 
 void MainWindow::rememberSingleColour(bool selected)
@@ -84,25 +102,21 @@ void MainWindow::sendFortune()
 
 void MainWindow::setKeyboardImageColor(int a, int b, int c, int d, int img)
 {
-    const std::initializer_list<QLabel *> labels{ui->keyboard_left, ui->keyboard_center,
-                                                 ui->keyboard_right, ui->keyboard_full,
-                                                 ui->stripe_led};
-    if (img < 1 || img > static_cast<int>(labels.size())) {
-        return;
+    // The pictures have the numbers of the targets that they show.
+    if (const auto target = colourTarget(img)) {
+        showPreview(rowOf(*target), tintColour({a, b, c}, d));
     }
-    const QPixmap picture(pictureFile(static_cast<KeyboardPicture>(img)));
-    labels.begin()[img - 1]->setPixmap(tinted(picture, tintColour({a, b, c}, d)));
 }
 
 void MainWindow::applyAllColours()
 {
     if (lighting.singleColorSelected) {
-        SetZoneColor(wholeKeyboardKind, lighting.singleZoneColor);
+        setColour(ColourTarget::Keyboard, lighting.singleZoneColor);
         return;
     }
-    SetZoneColor(1, lighting.leftZoneColor);
-    SetZoneColor(2, lighting.centerZoneColor);
-    SetZoneColor(3, lighting.rightZoneColor);
+    for (const ColourTarget zone : keyboardZones) {
+        setColour(zone, lighting.*rowOf(zone).colour);
+    }
 }
 
 void MainWindow::brightnessapply()
@@ -112,7 +126,7 @@ void MainWindow::brightnessapply()
         return;
     }
     if (ui->backlight_on->isChecked() && !loadingSettings) {
-        SetZoneColor(stripeKind, lighting.stripeLidColor);
+        setColour(ColourTarget::Stripe, lighting.stripeLidColor);
         applyAllColours();
     }
     lastAppliedBrightness = brightness;

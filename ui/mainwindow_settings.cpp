@@ -1,11 +1,10 @@
 #include "ui/mainwindow.h"
 
-#include "ui_mainwindow.h"
-
 #include "lighting/devicewords.h"
 #include "lighting/effects.h"
 #include "lighting/idletimes.h"
 #include "system/platform.h"
+#include "ui/colourtargets.h"
 #include "ui/darkstyle.h"
 #include "ui/windowplace.h"
 #include "ui/zonepages.h"
@@ -95,7 +94,7 @@ void MainWindow::delayedApply()
     dim.active = false; // the slider is the user's again, also where an effect keeps polls off
     showBrightness("%");
     lighting.stripeLidColor = settings.read(SettingKeys::stripeLid);
-    SetZoneColor(5, lighting.stripeLidColor);
+    setColour(ColourTarget::Stripe, lighting.stripeLidColor);
     ui->touch_mouse_wake->setChecked(settings.read(SettingKeys::touchWake));
     loadZoneColours();
 
@@ -132,21 +131,19 @@ void MainWindow::loadZoneColours()
     lighting.singleColorSelected = settings.read(SettingKeys::singleColourLast);
     if (lighting.singleColorSelected) {
         const QString colour = settings.read(SettingKeys::singleColour);
-        lighting.leftZoneColor = colour;
-        lighting.centerZoneColor = colour;
-        lighting.rightZoneColor = colour;
+        for (const ColourTarget zone : keyboardZones) {
+            lighting.*rowOf(zone).colour = colour;
+        }
         lighting.singleZoneColor = colour;
         ui->leRGB->setText(colour);
-        SetZoneColor(4, colour);
+        setColour(ColourTarget::Keyboard, colour);
         return;
     }
-    lighting.leftZoneColor = settings.read(SettingKeys::leftColour);
-    SetZoneColor(1, lighting.leftZoneColor);
-    lighting.centerZoneColor = settings.read(SettingKeys::centreColour);
-    SetZoneColor(2, lighting.centerZoneColor);
-    lighting.rightZoneColor = settings.read(SettingKeys::rightColour);
-    SetZoneColor(3, lighting.rightZoneColor);
-    setKeyboardImageColor(0, 0, 0, 0, 4);
+    for (const ColourTarget zone : keyboardZones) {
+        lighting.*rowOf(zone).colour = settings.read(*rowOf(zone).key);
+        setColour(zone, lighting.*rowOf(zone).colour);
+    }
+    showUncoloured(rowOf(ColourTarget::Keyboard));
     ui->tabWidget_2->setCurrentIndex(ZonesPage);
 }
 
