@@ -44,9 +44,9 @@ public:
     ~CommandWorld() { QFile::remove(target); }
     Q_DISABLE_COPY(CommandWorld)
 
-    void addInstallationCommands(int firstWaitMs = 0) const
+    void addInstallationCommands() const
     {
-        standIns->add(QStringLiteral("net"), firstWaitMs);
+        standIns->add(QStringLiteral("net"));
         standIns->add(QStringLiteral("regsvr32"));
     }
 
@@ -62,13 +62,9 @@ class TestCommands : public QObject
 
 private slots:
     void installation();
-    void installationInOrder();
     void installationLoadsSettings();
     void installationRefused_data();
     void installationRefused();
-    void libraryIsThereAlready();
-    void nothingToInstallWith();
-    void commandThatHangs();
     void uninstaller();
     void uninstallerIsMissing();
     void perKeyInstaller();
@@ -116,24 +112,6 @@ void TestCommands::installation()
     QCOMPARE(world.platform.relaunches, 0); // rights are not looked at
 }
 
-void TestCommands::installationInOrder()
-{
-    CommandWorld world;
-    world.addInstallationCommands();
-    writeFile(source, "library");
-    MainWindow &window = world.start();
-    QStringList runs;
-    QByteArray copied;
-    world.platform.whenLibraryIsSet = [&] {
-        runs = world.standIns->runs();
-        copied = readFile(target);
-    };
-    const BoxWatcher watcher(QMessageBox::Yes);
-    window.installmof();
-    QCOMPARE(runs, ::installation.mid(0, 2));
-    QCOMPARE(copied, QByteArray("library"));
-}
-
 void TestCommands::installationLoadsSettings()
 {
     CommandWorld world;
@@ -169,54 +147,6 @@ void TestCommands::installationRefused()
     QCOMPARE(world.standIns->runs(), QStringList());
     QVERIFY(!QFile::exists(target));
     QVERIFY(!world.platform.firmwareLibrary);
-}
-
-void TestCommands::libraryIsThereAlready()
-{
-    CommandWorld world;
-    world.addInstallationCommands();
-    writeFile(source, "new");
-    writeFile(target, "old");
-    MainWindow &window = world.start();
-    const BoxWatcher watcher(QMessageBox::Yes);
-    window.installmof();
-    QCOMPARE(readFile(target), QByteArray("old"));
-    QCOMPARE(world.standIns->runs(), ::installation);
-    QVERIFY(world.platform.firmwareLibrary);
-}
-
-void TestCommands::nothingToInstallWith()
-{
-    CommandWorld world; // no library to copy; a command that cannot be run
-    world.standIns->add(QStringLiteral("net"));
-    writeFile(QStringLiteral("regsvr32"), "not a program");
-    writeFile(QStringLiteral("regsvr32.exe"), "not a program");
-    MainWindow &window = world.start();
-    const BoxWatcher watcher(QMessageBox::Yes);
-    window.installmof();
-    QCOMPARE(world.standIns->runs(),
-             (QStringList{::installation.constFirst(), ::installation.constLast()}));
-    QVERIFY(world.platform.firmwareLibrary);
-}
-
-void TestCommands::commandThatHangs()
-{
-    CommandWorld world;
-    world.addInstallationCommands(40000);
-    MainWindow &window = world.start();
-    const BoxWatcher watcher(QMessageBox::Yes);
-    // The first command is given up after half a minute; later ones are quick again.
-    QElapsedTimer timer;
-    qint64 untilRegistration = 0;
-    world.platform.whenLibraryIsSet = [&] {
-        untilRegistration = timer.elapsed();
-        world.standIns->hurry(QStringLiteral("net"));
-    };
-    timer.start();
-    window.installmof();
-    QVERIFY2(untilRegistration >= 29900, qPrintable(QString::number(untilRegistration)));
-    QVERIFY2(timer.elapsed() < 39000, qPrintable(QString::number(timer.elapsed())));
-    QCOMPARE(world.standIns->runs(), ::installation);
 }
 
 void TestCommands::uninstaller()
