@@ -69,7 +69,7 @@ SingleApplicationPrivate::SingleApplicationPrivate(SingleApplication &app, Platf
 
 SingleApplicationPrivate::~SingleApplicationPrivate()
 {
-    giveRoleBack();
+    releaseRole();
 }
 
 bool SingleApplicationPrivate::start(bool allowSecondary, int timeoutMs)
@@ -86,7 +86,7 @@ bool SingleApplicationPrivate::start(bool allowSecondary, int timeoutMs)
 void SingleApplicationPrivate::handOver()
 {
     if (server) {
-        giveRoleBack();
+        releaseRole();
         handedOver = true;
     }
 }
@@ -131,7 +131,7 @@ SingleApplicationPrivate::Role SingleApplicationPrivate::takeRole(bool allowSeco
     return role;
 }
 
-void SingleApplicationPrivate::giveRoleBack()
+void SingleApplicationPrivate::releaseRole()
 {
     socket.reset();
     if (!block) {

@@ -23,7 +23,7 @@ class SingleApplicationPrivate : public QObject
 public:
     /// @param options bits of SingleApplication::Option
     SingleApplicationPrivate(SingleApplication &application, Platform &platform, int options);
-    /// Gives the role back.
+    /// Releases the role: the next start becomes the primary copy.
     ~SingleApplicationPrivate() override;
     Q_DISABLE_COPY(SingleApplicationPrivate)
 
@@ -44,7 +44,8 @@ private:
     enum class Role { Primary, Secondary, Leaving };
 
     Role takeRole(bool allowSecondary);
-    void giveRoleBack();
+    /// From here on no copy has the role, until the next start or takeBack() takes it.
+    void releaseRole();
     void becomePrimary(bool reset);
     void connectToPrimary(int timeoutMs, ConnectionMessage::Type type);
     void listenTo(QLocalSocket *client, quint32 instanceId);

@@ -61,7 +61,7 @@ public:
     /// Whether the user has asked to see the window, and not hidden it again.
     bool wasAskedFor() const { return askedFor; }
 
-    /// Keeps nothing back.
+    /// Lets every event through to its own receiver.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 signals:
@@ -76,19 +76,19 @@ public slots:
     void LoadSettings();
     void delayedApply();
     void ShutdownQuit();
-    void on_StartHidden_clicked();
-    void on_Check_CloseHides_clicked();
+    void on_StartHidden_clicked();      ///< "Start hidden in system tray"
+    void on_Check_CloseHides_clicked(); ///< "Close button hides instead of closing"
 
     // mainwindow_lighting.cpp: choices become device words
     uint GetColour(byte r, byte g, byte b, Zone zone);
     /// @param kind number of a ColourTarget; others do nothing
     void SetZoneColor(int kind, const QString &colour);
     void brightnessapply();
-    void on_horizontalSlider_valueChanged(int value);
-    void on_backlight_on_clicked();
-    void on_backlight_off_clicked();
-    void on_Combo_Effect_currentIndexChanged(int index);
-    void on_StartHidden_2_clicked();
+    void on_horizontalSlider_valueChanged(int value);    ///< under "Brightness Level: 100%"
+    void on_backlight_on_clicked();                      ///< "Enabled"
+    void on_backlight_off_clicked();                     ///< "Disabled"
+    void on_Combo_Effect_currentIndexChanged(int index); ///< beside "Effects:"
+    void on_StartHidden_2_clicked();                     ///< "Enable P75x Stripe LED Control"
     void suspendresumeaction();
     /// Gives the agent that waits longest the line of this moment; nothing where none waits.
     void sendFortune();
@@ -96,23 +96,24 @@ public slots:
     void setKeyboardImageColor(int a, int b, int c, int d, int img);
 
     // mainwindow_dimming.cpp: the slider is moved, by idling and by the companion application
-    void on_CheckBox_AutoDim_clicked();
-    void on_comboDimValue_currentIndexChanged(int index);
-    void on_touch_mouse_wake_clicked();
+    void on_CheckBox_AutoDim_clicked();                   ///< "Auto turn off:"
+    void on_comboDimValue_currentIndexChanged(int index); ///< beside "Auto turn off:"
+    void on_touch_mouse_wake_clicked();                   ///< "Mouse keys will also wake auto dim"
     void starttimerdelay();
     void timerDone();
-    void loadFromSharedMem(); ///< the same as sharedmemtimer()
+    /// Adopts the brightness that the companion application has published; two names, one body.
     void sharedmemtimer();
+    void loadFromSharedMem();
 
     // mainwindow_colours.cpp: the picker and its targets
-    void on_colorpick1_clicked();
-    void on_colorpick2_clicked();
-    void on_colorpick3_clicked();
-    void on_colorpick4_clicked();
-    void on_colorpick5_clicked();
-    void on_pushButton_clicked();
-    void on_pushButton_2_clicked();
-    void on_comboBox_BasicColors_currentIndexChanged(int index);
+    void on_colorpick1_clicked();   ///< the pipette under "Left"
+    void on_colorpick2_clicked();   ///< under "Center"
+    void on_colorpick3_clicked();   ///< under "Right"
+    void on_colorpick4_clicked();   ///< under "Single Color Selection"
+    void on_colorpick5_clicked();   ///< under "Touchpad Stripe LED color"
+    void on_pushButton_clicked();   ///< "Apply Value"
+    void on_pushButton_2_clicked(); ///< "Cancel"
+    void on_comboBox_BasicColors_currentIndexChanged(int index); ///< beside "Quick Basic Colors:"
     void updateColorRGB(const QString &RGB) override;
     void updateColorHex(const QString &Hex);
     void updateColorText(const QColor &color);
@@ -121,14 +122,14 @@ public slots:
     void copyHex();
     void copyHexHash();
     void pasteHex();
-    void on_bHex_clicked();
+    void on_bHex_clicked(); ///< "Copy Color"
 
     // mainwindow_shell.cpp: frame and tray
     void systemtraystart();
     void show_hide(QSystemTrayIcon::ActivationReason reason);
     void ShowInterface();
-    void on_closeButton_clicked();
-    void on_minimizeButton_clicked();
+    void on_closeButton_clicked();    ///< the cross in the title
+    void on_minimizeButton_clicked(); ///< the bar in the title
     void SetStyle();
 
     // mainwindow_dpi.cpp
@@ -150,14 +151,14 @@ public slots:
     /// with the events served.
     QString CheckAppVersion();
     void SetAppVersion();
-    void on_Button_CheckforUpdate_clicked();
-    void on_Button_Update_clicked();
+    void on_Button_CheckforUpdate_clicked(); ///< "Check for Update"
+    void on_Button_Update_clicked();         ///< "Update"
 
     // mainwindow_system.cpp: autostart, uninstaller, per-key application
-    void on_Check_StartwithWindows_clicked();
-    void on_pushButton_3_clicked();
-    void on_UsePerKeyApp_clicked();
-    void on_colorpick5_3_clicked();
+    void on_Check_StartwithWindows_clicked(); ///< "Start with Windows"
+    void on_pushButton_3_clicked();           ///< "Uninstall"
+    void on_UsePerKeyApp_clicked();           ///< "User Per-Key RGB CLEVO App"
+    void on_colorpick5_3_clicked();           ///< under "Per Key RGB Keyboard App"
 
 protected:
     bool event(QEvent *event) override;
@@ -175,7 +176,7 @@ private:
     void enableStripePage(bool enabled);
     void applyStoredEffect();
     void loadZoneColours();
-    void setLightingControlsEnabled(bool enabled);
+    void enableWhatNeedsTheBacklight(bool enabled);
 
     void applyAllColours();
     void setColour(ColourTarget target, const QString &colour);
@@ -209,7 +210,7 @@ private:
     void startPerKeyApplication();
     void enterPerKeyMode();
     void leavePerKeyMode();
-    void setReplacedControlsEnabled(bool enabled);
+    void enableWhatPerKeyModeReplaces(bool enabled);
     quint32 now() const;
 
     /// No slider has this value.

@@ -148,7 +148,7 @@ void MainWindow::showBrightness(const char *suffix)
                              .arg(QLatin1String(suffix)));
 }
 
-void MainWindow::setLightingControlsEnabled(bool enabled)
+void MainWindow::enableWhatNeedsTheBacklight(bool enabled)
 {
     ui->horizontalSlider->setEnabled(enabled);
     ui->tabWidget_2->setEnabled(enabled);
@@ -164,7 +164,7 @@ void MainWindow::on_backlight_off_clicked()
         settings.write(SettingKeys::backlightOff, true);
         settings.write(SettingKeys::backlightOn, false);
     }
-    setLightingControlsEnabled(false);
+    enableWhatNeedsTheBacklight(false);
 }
 
 void MainWindow::on_backlight_on_clicked()
@@ -176,7 +176,7 @@ void MainWindow::on_backlight_on_clicked()
         settings.write(SettingKeys::backlightOn, true);
         settings.write(SettingKeys::backlightOff, false);
     }
-    setLightingControlsEnabled(true);
+    enableWhatNeedsTheBacklight(true);
 }
 
 void MainWindow::on_Combo_Effect_currentIndexChanged(int index)

@@ -80,7 +80,7 @@ void MainWindow::delayedApply()
     if (backlightOn) {
         wake.wakePending = true;
     }
-    setLightingControlsEnabled(backlightOn);
+    enableWhatNeedsTheBacklight(backlightOn);
     ui->backlight_on->setChecked(backlightOn);
     ui->backlight_off->setChecked(!backlightOn);
 

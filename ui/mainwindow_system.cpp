@@ -95,7 +95,7 @@ void MainWindow::on_UsePerKeyApp_clicked()
 
 void MainWindow::enterPerKeyMode()
 {
-    setReplacedControlsEnabled(false);
+    enableWhatPerKeyModeReplaces(false);
     for (const int page : {SinglePage, ZonesPage, StripePage}) {
         ui->tabWidget_2->setTabVisible(page, false);
     }
@@ -107,7 +107,7 @@ void MainWindow::enterPerKeyMode()
 
 void MainWindow::leavePerKeyMode()
 {
-    setReplacedControlsEnabled(true);
+    enableWhatPerKeyModeReplaces(true);
     ui->tabWidget_2->setTabVisible(SinglePage, true);
     ui->tabWidget_2->setTabVisible(ZonesPage, true);
     if (ui->StartHidden_2->isChecked()) {
@@ -117,7 +117,7 @@ void MainWindow::leavePerKeyMode()
     DarkStyle::layOutTabs(ui->tabWidget_2->tabBar());
 }
 
-void MainWindow::setReplacedControlsEnabled(bool enabled)
+void MainWindow::enableWhatPerKeyModeReplaces(bool enabled)
 {
     const std::initializer_list<QWidget *> lightingControls{
         ui->horizontalSlider, ui->backlight_on,     ui->backlight_off, ui->touch_mouse_wake,
