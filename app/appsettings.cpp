@@ -23,8 +23,8 @@ constexpr int longestWaitMs = 300;
 /// does not let anybody remove the lock of a process that lives.
 constexpr int abandonedAfterMs = 200;
 
-/// Whether another process does not get done with writing the file. QSettings itself would wait
-/// for it for half a minute, and the window with it.
+/// Whether another process has been writing the file for longer than this one is ready to wait.
+/// QSettings itself would wait for half a minute, and the window with it.
 bool isHeld(const QString &path, int patienceMs)
 {
     const QString lockPath = path + QStringLiteral(".lock");
@@ -36,16 +36,18 @@ bool isHeld(const QString &path, int patienceMs)
     return !lock.tryLock(patienceMs) && lock.error() == QLockFile::LockFailedError;
 }
 
-/// The lock, and what a file is rounded up to.
+/// What a write needs beside the new file itself: QSettings makes a lock file too, and the disk gives
+/// each file a whole number of its blocks.
 constexpr qint64 roomBesideTheFile = qint64{16} * 1024;
 
-/// Whether the disk can take the file a second time. On Windows a lock that cannot be written stays
-/// behind with the process that took it, and QSettings waits for it for ever after.
+/// Whether the disk can take the file a second time, which QSettings needs to replace it. It is not
+/// tried without: on Windows a lock file that the disk has no room for stays behind with the process
+/// that took it, and the next write would wait for it for ever.
 bool hasRoom(const QString &path)
 {
     QFile probe(path + QStringLiteral(".room"));
     if (!probe.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
-        return true; // no question of room
+        return true; // the folder cannot be written, but not for want of room: the write tells
     }
     const QByteArray block(roomBesideTheFile, 'x');
     qint64 left = QFileInfo(path).size() + roomBesideTheFile;
@@ -168,7 +170,8 @@ void AppSettings::report(Access access, const QSettings &settings) const
     if (status == QSettings::NoError && isUnreadable(settings.fileName())) {
         status = QSettings::AccessError;
     }
-    // What could not be written waits for the next that uses the file, be it to read.
+    // QSettings tries a write that failed again with the next object of the same file. Where that one
+    // only reads, its AccessError is of the write: reading works, and that is what is asked here.
     if (access == ReadSettings && status == QSettings::AccessError
         && !isUnreadable(settings.fileName())) {
         status = QSettings::NoError;
@@ -178,7 +181,7 @@ void AppSettings::report(Access access, const QSettings &settings) const
 
 void AppSettings::report(Access access, const QString &path, QSettings::Status status) const
 {
-    // Damage is told, and mended by the write itself, where the file is read.
+    // Only readers tell of a damaged file. A write need not: it replaces the file by a sound one.
     const bool writes = access == WriteSettings || access == WriteWork;
     if (writes && status == QSettings::FormatError) {
         return;

@@ -82,8 +82,8 @@ private:
     enum Access { ReadSettings, WriteSettings, ReadBranding, WriteWork };
 
     QVariant readFrom(Access access, const QString &path, const SettingKey &key) const;
-    /// Whether QSettings can be trusted with a write: it comes back soon, and another time it can.
-    /// Reports it when not.
+    /// Whether a write through QSettings will come back soon: the disk has room and nobody else is
+    /// writing. Reports it when not.
     bool isReadyForWriting(Access access, const QString &path) const;
     void report(Access access, const QSettings &settings) const;
     void report(Access access, const QString &path, QSettings::Status status) const;

@@ -60,6 +60,8 @@ int main(int argc, char *argv[])
     // Set after the application exists, so Qt leaves scaling alone: the window adapts itself.
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     setFontForDpi();
+    // Behind the guard, on purpose: the name that all copies share is made of the identity as Qt finds
+    // it by itself. Set earlier, it would part this version from those that already run.
     setIdentity();
     QApplication::setStyle(new DarkStyle); // the application takes ownership
 
@@ -73,6 +75,8 @@ int main(int argc, char *argv[])
                       ServiceEndpoint());
     QObject::connect(&application, SIGNAL(aboutToQuit()), &window, SLOT(ShutdownQuit()));
     QObject::connect(&application, &SingleApplication::instanceStarted, &window, [&window] {
+        // Raised before it is shown, so that a minimised window comes back in front. The order differs
+        // from the one below and from those of the tray and of an update, on purpose.
         window.raise();
         window.show();
         window.showNormal();
@@ -80,11 +84,13 @@ int main(int argc, char *argv[])
         window.setFocus(Qt::OtherFocusReason);
     });
 
-    // Open until the event loop has ended, unlike all others: that is agreed for this one.
+    // On purpose the one settings object that lives until the event loop has ended; every other access
+    // makes one for the call.
     const auto openSettings = settings.openSettings();
     settings.write(SettingKeys::appUrl,
                    QDir::toNativeSeparators(QCoreApplication::applicationFilePath()));
-    const bool startHidden = settings.read(SettingKeys::startHidden);
+    const bool startHidden =
+        SettingKeys::startHidden.from(openSettings->value(settingsPath(SettingKeys::startHidden)));
 
     const bool stayHidden = startHidden && !startedAgain && !window.wasAskedFor();
     if (stayHidden) {

@@ -9,7 +9,8 @@ namespace {
 // The firmware needs this before it takes colours.
 constexpr int settlingSteps = 10;
 constexpr int settlingStepMs = 1000;
-/// A sender that waits for each window's answer tells the next one only then.
+/// Windows may wait for each window's answer before it tells the next. That notice then comes right
+/// after the settling, well within this time.
 constexpr int sameResumeMs = 500;
 
 } // namespace
@@ -38,7 +39,7 @@ bool MyEventFilter::nativeEventFilter(const QByteArray &eventType, void *message
 
 void MyEventFilter::resumed()
 {
-    if (settling) { // delivered from within
+    if (settling) { // one that comes while another is worked off is of the same resume
         return;
     }
     if (!sameResume.isActive()) {
@@ -50,6 +51,7 @@ void MyEventFilter::resumed()
         emit emitawake();
         settling = false;
     }
-    // The loop looks at waiting messages before it looks at timers.
+    // Started at the end: the event loop takes the messages that came during the sleep before it looks
+    // at timers, so all of them find this one running.
     sameResume.start();
 }

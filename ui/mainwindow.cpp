@@ -34,8 +34,9 @@ MainWindow::MainWindow(AppSettings appSettings, Platform &system, PrimaryRole &r
     ToggleAccessible::install();
     ui->setupUi(this);
     new GrooveClick(ui->horizontalSlider);
-    // The form's order of tabs is a circle that leaves the title buttons right behind the window
-    // itself, where the first Tab would meet them. By way of another place they come to its end.
+    // Tab goes round in a circle, and by the form the title's buttons stand in it right behind the
+    // window itself, so that the first Tab would go to them. They belong at the end; Qt puts them
+    // there when they come from another place.
     for (QWidget *const button : {ui->closeButton, ui->minimizeButton}) {
         setTabOrder(ui->backlight_on, button);
         setTabOrder(ui->Button_Update, button);
@@ -64,7 +65,8 @@ MainWindow::MainWindow(AppSettings appSettings, Platform &system, PrimaryRole &r
     connectColourPicker();
     SetStyle();
     DPIfixes();
-    // Last, because the steps before may take their time: an agent finds the server or nobody.
+    // Last, because the check for updates above may wait: until then an agent is refused at once, where
+    // a server that listens but cannot answer yet would keep it waiting.
     serviceServer = new ServiceServer(endpoint, platform, this);
     serviceServer->start();
     connect(serviceServer, SIGNAL(newConnection()), this, SLOT(sendFortune()));
@@ -79,7 +81,8 @@ MainWindow::MainWindow(AppSettings appSettings, Platform &system, PrimaryRole &r
 
 MainWindow::~MainWindow()
 {
-    // A menu that the desktop shows gives its items back one by one, not when it ends.
+    // The desktop's side of a menu lets go of an item when that is taken out, but not of those that a
+    // destroyed menu still had.
     trayMenu->clear();
 }
 

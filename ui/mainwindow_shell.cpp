@@ -55,6 +55,8 @@ void MainWindow::show_hide(QSystemTrayIcon::ActivationReason reason)
 void MainWindow::ShowInterface()
 {
     askedFor = true;
+    // Shown, then raised, then focused: the order in which the window comes out of the tray. A later
+    // start and an update raise a window that may be shown already, in orders of their own.
     show();
     raise();
     setFocus(Qt::OtherFocusReason);
@@ -85,7 +87,7 @@ void MainWindow::SetStyle()
     }
     if (sheet.open(QIODevice::ReadOnly | QIODevice::Text)) {
         const QString text = QTextStream(&sheet).readAll();
-        // Setting it once more would look at every widget of the finished form again.
+        // Setting the same sheet once more would have Qt work through every widget of the form again.
         if (qApp->styleSheet() != text) {
             qApp->setStyleSheet(text);
         }
@@ -99,7 +101,8 @@ bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 
 bool MainWindow::event(QEvent *event)
 {
-    // Each time that the native window is made, or made over: what it was told is then forgotten.
+    // Qt makes the native window anew when its flags change, and the new one knows nothing of what the
+    // old one was told; so each is told.
     if (event->type() == QEvent::WinIdChange && internalWinId() != 0) {
         platform.letTaskBarMinimise(internalWinId());
     }
@@ -109,12 +112,13 @@ bool MainWindow::event(QEvent *event)
 void MainWindow::childEvent(QChildEvent *event)
 {
     QMainWindow::childEvent(event);
-    if (!event->polished()) { // a child that leaves may be no widget any more
+    if (!event->polished()) { // of a child that leaves, the part that is a widget may be gone
         return;
     }
     auto *const child = qobject_cast<QWidget *>(event->child());
     if (child && child->isWindow()) {
-        // A message box that closes while the window is hidden is not the end of the program.
+        // Qt quits when the last visible window closes. While this one is in the tray, a message box
+        // would be that last one.
         child->setAttribute(Qt::WA_QuitOnClose, false);
     }
 }

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "tests/support/lightinglines.h"
+
 #include <QString>
 
 /// Saved settings and the lines that the program sends for them.
 namespace Lines {
 
-const QString off = QStringLiteral("3758108672,3758108672,3758108672,3758108672,0");
-const QString wake = QStringLiteral("3758616583,3758616583,3758616583,3758616583,0");
+using LightingLines::off;
+using LightingLines::wake;
 
 constexpr const char *threeZonesSettings =
     "backlight_on=true\nbrightlevel=100\nZone1Color=255 0 0\n"

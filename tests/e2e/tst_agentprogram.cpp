@@ -1,6 +1,7 @@
 // Starts the real lumikey-agent against a server in this process.
 
 #include "agentharness.h"
+#include "tests/support/lightinglines.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -14,8 +15,8 @@ namespace {
 
 const QString normalText = QStringLiteral("4026597120,4043309056,4060086272,4076863488,0");
 const QString effectText = QStringLiteral("4026597120,4043309056,4060086272,4076863488,2952790016");
-const QString wakeText = QStringLiteral("3758616583,3758616583,3758616583,3758616583,0");
-const QString offText = QStringLiteral("3758108672,3758108672,3758108672,3758108672,0");
+const QString &wakeText = LightingLines::wake;
+const QString &offText = LightingLines::off;
 const QString dimmedText = QStringLiteral("3758108672,3758108672,3758108672,3758108672,268607488");
 
 const QString normalLine =

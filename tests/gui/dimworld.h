@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/support/lightinglines.h"
 #include "tests/support/pictures.h"
 #include "tests/support/testwindow.h"
 
@@ -10,8 +11,8 @@
 #include <QTest>
 
 namespace DimWorldLines {
-const QString wake = QStringLiteral("3758616583,3758616583,3758616583,3758616583,0");
-const QString dark = QStringLiteral("3758108672,3758108672,3758108672,3758108672,0");
+using LightingLines::wake;
+const QString &dark = LightingLines::off;
 const QString red = QStringLiteral("4026597120,4043309056,4060086272,4076863488,0");
 } // namespace DimWorldLines
 

@@ -163,12 +163,6 @@ inline constexpr std::array pages{
 
 inline constexpr std::array initiallyDisabled{"bPasteHex", "Button_Update"};
 
-/// What choosing an effect hides, to show effectNotes instead.
-inline constexpr std::array hiddenByEffects{
-    "label_13",      "keyboard_full",   "colorpick4",     "label_9",    "label_10",   "label_11",
-    "keyboard_left", "keyboard_center", "keyboard_right", "colorpick1", "colorpick2", "colorpick3"};
-inline constexpr std::array effectNotes{"label_14", "label_16"};
-
 /// The keyboard's way through the controls; the title buttons come last on purpose, so that the
 /// first key press after showing the window does not minimise or close it.
 inline constexpr std::array tabOrder{"backlight_on",

@@ -2,6 +2,7 @@
 #include "formlooks.h"
 #include "formtables.h"
 #include "formwindow.h"
+#include "tests/support/effectwidgets.h"
 #include "ui/darkstyle.h"
 
 #include <QAbstractButton>
@@ -167,10 +168,10 @@ void TestFormView::showView(int zonePage, int settingsPage, bool effects, bool p
 {
     tabs("tabWidget_2")->setCurrentIndex(zonePage);
     tabs("tabWidget")->setCurrentIndex(settingsPage);
-    for (const char *object : formtables::hiddenByEffects) {
+    for (const char *object : EffectWidgets::hidden) {
         child(object)->setVisible(!effects);
     }
-    for (const char *object : formtables::effectNotes) {
+    for (const char *object : EffectWidgets::notes) {
         child(object)->setVisible(effects);
     }
     child("colorpickframe")->setVisible(picker);

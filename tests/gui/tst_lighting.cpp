@@ -1,6 +1,6 @@
 #include "lighting/effects.h"
+#include "tests/support/effectwidgets.h"
 #include "tests/support/pictures.h"
-#include "tests/support/serviceclient.h"
 #include "tests/support/testwindow.h"
 
 #include <QComboBox>
@@ -15,11 +15,6 @@ namespace {
 
 constexpr std::array lightingControls{"horizontalSlider", "tabWidget_2", "Combo_Effect",
                                       "CheckBox_AutoDim", "comboDimValue"};
-constexpr std::array colourWidgets{
-    "label_13",      "keyboard_full",   "colorpick4",     "label_9",    "label_10",   "label_11",
-    "keyboard_left", "keyboard_center", "keyboard_right", "colorpick1", "colorpick2", "colorpick3",
-};
-constexpr std::array notes{"label_14", "label_16"};
 
 } // namespace
 
@@ -329,10 +324,10 @@ void TestLighting::effects()
     for (const char *name : {"horizontalSlider", "CheckBox_AutoDim", "comboDimValue"}) {
         QVERIFY2(!world.get<QWidget>(name)->isEnabled(), name);
     }
-    for (const char *name : colourWidgets) {
+    for (const char *name : EffectWidgets::hidden) {
         QVERIFY2(world.get<QWidget>(name)->isHidden(), name);
     }
-    for (const char *name : notes) {
+    for (const char *name : EffectWidgets::notes) {
         QVERIFY2(!world.get<QWidget>(name)->isHidden(), name);
     }
 }
@@ -367,10 +362,10 @@ void TestLighting::backToNoEffect()
     for (const char *name : {"horizontalSlider", "CheckBox_AutoDim", "comboDimValue"}) {
         QVERIFY2(world.get<QWidget>(name)->isEnabled(), name);
     }
-    for (const char *name : colourWidgets) {
+    for (const char *name : EffectWidgets::hidden) {
         QVERIFY2(!world.get<QWidget>(name)->isHidden(), name);
     }
-    for (const char *name : notes) {
+    for (const char *name : EffectWidgets::notes) {
         QVERIFY2(world.get<QWidget>(name)->isHidden(), name);
     }
 }

@@ -1,10 +1,13 @@
-#include "tests/support/serviceclient.h"
+#include "tests/support/effectwidgets.h"
+#include "tests/support/lightinglines.h"
 #include "tests/support/testwindow.h"
 
 #include <QAbstractEventDispatcher>
 #include <QComboBox>
 #include <QLabel>
 #include <QTest>
+
+#include <algorithm>
 
 namespace {
 
@@ -21,12 +24,11 @@ QString words(const MainWindow &window)
 QString effectLooks(const TestWindow &world)
 {
     QStringList looks;
-    for (const char *const name :
-         {"label_14", "label_16", "label_13", "keyboard_full", "colorpick4", "label_9", "label_10",
-          "label_11", "keyboard_left", "keyboard_center", "keyboard_right", "colorpick1",
-          "colorpick2", "colorpick3"}) {
+    const auto look = [&](const char *name) {
         looks += QString::fromLatin1(world.get<QWidget>(name)->isHidden() ? "-" : name);
-    }
+    };
+    std::for_each(EffectWidgets::notes.begin(), EffectWidgets::notes.end(), look);
+    std::for_each(EffectWidgets::hidden.begin(), EffectWidgets::hidden.end(), look);
     for (const char *const name : {"horizontalSlider", "CheckBox_AutoDim", "comboDimValue"}) {
         looks += QString::fromLatin1(world.get<QWidget>(name)->isEnabled() ? name : "-");
     }
@@ -193,18 +195,17 @@ void TestResumedWindow::placeStays()
 /// The keyboard is another application's, and its colours are not told again.
 void TestResumedWindow::nothingComesBackInPerKeyMode()
 {
-    const QString wake = QStringLiteral("3758616583,3758616583,3758616583,3758616583,0");
     const QString black =
         QString(blackLine).replace(QLatin1Char(' '), QLatin1Char(',')) + QStringLiteral(",0");
     world->writeSettings("backlight_on=true\nbrightlevel=100\nZone1Color=255 0 0\nPerKey=true\n");
     world->construct();
     for (int answer = 0; answer < 3; ++answer) {
-        QCOMPARE(world->readLine(), wake);
+        QCOMPARE(world->readLine(), LightingLines::wake);
     }
     world->window->suspendresumeaction();
     world->window->LoadSettings();
     QTest::qWait(1300); // longer than settings wait to be applied
-    for (const QString &line : {wake, wake, black, black}) {
+    for (const QString &line : {LightingLines::wake, LightingLines::wake, black, black}) {
         QCOMPARE(world->readLine(), line);
     }
 }

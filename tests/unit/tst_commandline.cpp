@@ -1,12 +1,13 @@
 #include "lighting/commandline.h"
+#include "tests/support/lightinglines.h"
 #include "tests/support/serviceclient.h"
 
 #include <QTest>
 
 namespace {
 
-const QString offLine = QStringLiteral("3758108672,3758108672,3758108672,3758108672,0");
-const QString wakeLine = QStringLiteral("3758616583,3758616583,3758616583,3758616583,0");
+const QString &offLine = LightingLines::off;
+const QString &wakeLine = LightingLines::wake;
 const QString redLine = QStringLiteral("4026597120,4043309056,4060086272,4076863488,0");
 
 LightingState redLeft()
