@@ -36,13 +36,13 @@ bool isHeld(const QString &path, int patienceMs)
     return !lock.tryLock(patienceMs) && lock.error() == QLockFile::LockFailedError;
 }
 
-/// What a write needs beside the new file itself: QSettings makes a lock file too, and the disk gives
-/// each file a whole number of its blocks.
+/// What a write needs beside the new file itself: QSettings makes a lock file too, and the disk
+/// gives each file a whole number of its blocks.
 constexpr qint64 roomBesideTheFile = qint64{16} * 1024;
 
 /// Whether the disk can take the file a second time, which QSettings needs to replace it. It is not
-/// tried without: on Windows a lock file that the disk has no room for stays behind with the process
-/// that took it, and the next write would wait for it for ever.
+/// tried without: on Windows a lock file that the disk has no room for stays behind with the
+/// process that took it, and the next write would wait for it for ever.
 bool hasRoom(const QString &path)
 {
     QFile probe(path + QStringLiteral(".room"));
@@ -170,8 +170,9 @@ void AppSettings::report(Access access, const QSettings &settings) const
     if (status == QSettings::NoError && isUnreadable(settings.fileName())) {
         status = QSettings::AccessError;
     }
-    // QSettings tries a write that failed again with the next object of the same file. Where that one
-    // only reads, its AccessError is of the write: reading works, and that is what is asked here.
+    // QSettings tries a write that failed again with the next object of the same file. Where that
+    // one only reads, its AccessError is of the write: reading works, and that is what is asked
+    // here.
     if (access == ReadSettings && status == QSettings::AccessError
         && !isUnreadable(settings.fileName())) {
         status = QSettings::NoError;

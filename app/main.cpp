@@ -60,8 +60,8 @@ int main(int argc, char *argv[])
     // Set after the application exists, so Qt leaves scaling alone: the window adapts itself.
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     setFontForDpi();
-    // Behind the guard, on purpose: the name that all copies share is made of the identity as Qt finds
-    // it by itself. Set earlier, it would part this version from those that already run.
+    // Behind the guard, on purpose: the name that all copies share is made of the identity as Qt
+    // finds it by itself. Set earlier, it would part this version from those that already run.
     setIdentity();
     QApplication::setStyle(new DarkStyle); // the application takes ownership
 
@@ -75,8 +75,8 @@ int main(int argc, char *argv[])
                       ServiceEndpoint());
     QObject::connect(&application, SIGNAL(aboutToQuit()), &window, SLOT(ShutdownQuit()));
     QObject::connect(&application, &SingleApplication::instanceStarted, &window, [&window] {
-        // Raised before it is shown, so that a minimised window comes back in front. The order differs
-        // from the one below and from those of the tray and of an update, on purpose.
+        // Raised before it is shown, so that a minimised window comes back in front. The order
+        // differs from the one below and from those of the tray and of an update, on purpose.
         window.raise();
         window.show();
         window.showNormal();
@@ -84,8 +84,8 @@ int main(int argc, char *argv[])
         window.setFocus(Qt::OtherFocusReason);
     });
 
-    // On purpose the one settings object that lives until the event loop has ended; every other access
-    // makes one for the call.
+    // On purpose the one settings object that lives until the event loop has ended; every other
+    // access makes one for the call.
     const auto openSettings = settings.openSettings();
     settings.write(SettingKeys::appUrl,
                    QDir::toNativeSeparators(QCoreApplication::applicationFilePath()));

@@ -51,7 +51,7 @@ void MyEventFilter::resumed()
         emit emitawake();
         settling = false;
     }
-    // Started at the end: the event loop takes the messages that came during the sleep before it looks
-    // at timers, so all of them find this one running.
+    // Started at the end: the event loop takes the messages that came during the sleep before it
+    // looks at timers, so all of them find this one running.
     sameResume.start();
 }

@@ -7,9 +7,9 @@
 class Platform;
 
 /// Tells when the machine has resumed from sleep and the keyboard controller has had time to
-/// settle. The system tells of one resume several times, once to each top-level window. Notices that
-/// wait in the queue when the time to settle has passed, or come within half a second of the one
-/// before, therefore belong to the resume that was told already.
+/// settle. The system tells of one resume several times, once to each top-level window. Notices
+/// that wait in the queue when the time to settle has passed, or come within half a second of the
+/// one before, therefore belong to the resume that was told already.
 class MyEventFilter : public QObject, public QAbstractNativeEventFilter
 {
     Q_OBJECT

@@ -8,7 +8,6 @@
 #include "ui/toggleaccessible.h"
 
 #include <QCoreApplication>
-#include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -65,8 +64,8 @@ MainWindow::MainWindow(AppSettings appSettings, Platform &system, PrimaryRole &r
     connectColourPicker();
     SetStyle();
     DPIfixes();
-    // Last, because the check for updates above may wait: until then an agent is refused at once, where
-    // a server that listens but cannot answer yet would keep it waiting.
+    // Last, because the check for updates above may wait: until then an agent is refused at once,
+    // where a server that listens but cannot answer yet would keep it waiting.
     serviceServer = new ServiceServer(endpoint, platform, this);
     serviceServer->start();
     connect(serviceServer, SIGNAL(newConnection()), this, SLOT(sendFortune()));
@@ -79,12 +78,7 @@ MainWindow::MainWindow(AppSettings appSettings, Platform &system, PrimaryRole &r
     }
 }
 
-MainWindow::~MainWindow()
-{
-    // The desktop's side of a menu lets go of an item when that is taken out, but not of those that a
-    // destroyed menu still had.
-    trayMenu->clear();
-}
+MainWindow::~MainWindow() = default;
 
 quint32 MainWindow::now() const
 {

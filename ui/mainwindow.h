@@ -25,7 +25,6 @@
 class Platform;
 class PrimaryRole;
 class QLineEdit;
-class QMenu;
 class ServiceServer;
 enum class ColourTarget;
 struct ColourTargetRow;
@@ -241,21 +240,23 @@ private:
     bool askedFor = false;
     bool sizesAdapted = false;
 
-    /// What the picker edits, or edited last.
-    std::optional<ColourTarget> pickTarget;
+    /// The open picker, or the one that was open last.
+    struct Picker
+    {
+        std::optional<ColourTarget> target; ///< nothing before the first was opened
+        LastInput input;                    ///< what worked the buttons that open and close it
+        /// The selectors announce colours that are steps to the one that was asked for.
+        bool colourOnItsWay = false;
+    };
+    Picker picker;
     std::unique_ptr<ColorProcessor> colourProcessor;
     std::unique_ptr<MainController> pickerController;
-    /// What worked the buttons that open and close the picker.
-    LastInput pickerInput;
-    /// The selectors announce colours that are steps to the one that was asked for.
-    bool colourOnItsWay = false;
 
     CompanionReader companion;
     MyEventFilter eventFilterForResume;
     QTimer *companionTimer = nullptr;
     QTimer *dimTimer = nullptr;
 
-    std::unique_ptr<QMenu> trayMenu; // a tray icon does not own its menu
-    bool dragging = false;
-    QPoint pressPosition;
+    /// Where the mouse holds the window that it drags.
+    std::optional<QPoint> dragGrip;
 };

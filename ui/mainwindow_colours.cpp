@@ -40,7 +40,7 @@ void MainWindow::connectColourPicker()
     for (QWidget *const button : std::initializer_list<QWidget *>{
              ui->colorpick1, ui->colorpick2, ui->colorpick3, ui->colorpick4, ui->colorpick5,
              ui->pushButton, ui->pushButton_2}) {
-        pickerInput.watch(*button);
+        picker.input.watch(*button);
     }
     // A number that is missing keeps its place only for who is about to type it.
     connect(ui->leRGB, &QLineEdit::editingFinished, this, [this] {
@@ -75,7 +75,7 @@ void MainWindow::setRgbText(const QString &text)
 void MainWindow::openPicker(ColourTarget target)
 {
     const ColourTargetRow &row = rowOf(target);
-    pickTarget = target;
+    picker.target = target;
     // Hidden first: shown beside the tabs, the panel would stretch the window for good.
     ui->tabWidget_2->hide();
     ui->tabWidget->hide();
@@ -89,7 +89,7 @@ void MainWindow::openPicker(ColourTarget target)
     ui->leRGB->clearFocus();
     ui->label_8->setText(QString::fromLatin1(row.prompt));
     ui->comboBox_BasicColors->setCurrentIndex(basicColourIndex(ui->leRGB->text()));
-    ui->svSelector->setFocus(pickerInput.wasMouse() ? Qt::MouseFocusReason : Qt::OtherFocusReason);
+    ui->svSelector->setFocus(picker.input.wasMouse() ? Qt::MouseFocusReason : Qt::OtherFocusReason);
 }
 
 void MainWindow::showNoColour()
@@ -102,14 +102,14 @@ void MainWindow::showNoColour()
 
 void MainWindow::closePicker()
 {
-    if (pickerInput.wasMouse() && focusWidget() != nullptr) {
+    if (picker.input.wasMouse() && focusWidget() != nullptr) {
         focusWidget()->clearFocus(); // else it would go, and be marked, where nobody has put it
     }
     ui->colorpickframe->hide();
     ui->tabWidget_2->show();
     ui->tabWidget->show();
-    if (pickTarget && !pickerInput.wasMouse()) {
-        (*ui.*rowOf(*pickTarget).opener)->setFocus(Qt::OtherFocusReason);
+    if (picker.target && !picker.input.wasMouse()) {
+        (*ui.*rowOf(*picker.target).opener)->setFocus(Qt::OtherFocusReason);
     }
 }
 
@@ -142,14 +142,14 @@ void MainWindow::on_pushButton_clicked()
 {
     closePicker();
     const QString colour = ui->leRGB->text(); // stored as typed, also when it is no colour
-    if (!pickTarget) {
+    if (!picker.target) {
         return; // never opened
     }
     const auto keep = [&](ColourTarget target) {
         settings.write(*rowOf(target).key, colour);
         lighting.*rowOf(target).colour = colour;
     };
-    if (*pickTarget == ColourTarget::Keyboard) {
+    if (*picker.target == ColourTarget::Keyboard) {
         for (const ColourTarget zone : keyboardZones) {
             keep(zone);
         }
@@ -157,9 +157,9 @@ void MainWindow::on_pushButton_clicked()
         lighting.singleColorSelected = true;
         settings.write(SettingKeys::singleColourLast, true);
     } else {
-        keep(*pickTarget);
+        keep(*picker.target);
     }
-    setColour(*pickTarget, colour);
+    setColour(*picker.target, colour);
 }
 
 void MainWindow::on_pushButton_2_clicked()
@@ -200,9 +200,9 @@ void MainWindow::updateColorHex(const QString &Hex)
 void MainWindow::takeText(QLineEdit &field, QColor (ColorProcessor::*set)(const QString &))
 {
     const ColorTyping::Typed typed{field.text(), field.cursorPosition()};
-    colourOnItsWay = true;
+    picker.colourOnItsWay = true;
     const QColor colour = (*colourProcessor.*set)(typed.text);
-    colourOnItsWay = false;
+    picker.colourOnItsWay = false;
     // The selectors know whole degrees of hue only, so what they announce may be a step beside the
     // colour that was asked for.
     if (colour.isValid()) {
@@ -218,7 +218,7 @@ void MainWindow::updateColorText(const QColor &color)
     ui->leRGB->setText(rgb);
     ui->leHex->setText(hex);
     // The list gives up a colour that is shown no more, so that it can be chosen again.
-    if (!colourOnItsWay && !isBasicColour(ui->comboBox_BasicColors->currentIndex(), rgb)) {
+    if (!picker.colourOnItsWay && !isBasicColour(ui->comboBox_BasicColors->currentIndex(), rgb)) {
         ui->comboBox_BasicColors->setCurrentIndex(0);
     }
 }

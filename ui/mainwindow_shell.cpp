@@ -3,15 +3,13 @@
 #include "ui_mainwindow.h"
 
 #include "system/platform.h"
+#include "ui/trayicon.h"
 #include "ui/windowplace.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QChildEvent>
 #include <QCloseEvent>
 #include <QFile>
-#include <QIcon>
-#include <QMenu>
 #include <QMessageBox>
 #include <QMouseEvent>
 #include <QScreen>
@@ -21,20 +19,7 @@
 
 void MainWindow::systemtraystart()
 {
-    auto *const trayIcon = new QSystemTrayIcon(this);
-    trayIcon->setIcon(QIcon(QStringLiteral("branding/lumikey_system_tray.png")));
-    trayIcon->setVisible(true);
-    connect(trayIcon, SIGNAL(activated(QSystemTrayIcon::ActivationReason)), this,
-            SLOT(show_hide(QSystemTrayIcon::ActivationReason)));
-
-    auto *const exitAction = new QAction(QStringLiteral("Exit"), trayIcon);
-    connect(exitAction, SIGNAL(triggered()), this, SLOT(close()));
-    auto *const showAction = new QAction(QStringLiteral("Show Interface"), trayIcon);
-    connect(showAction, SIGNAL(triggered()), this, SLOT(ShowInterface()));
-    trayMenu = std::make_unique<QMenu>();
-    trayMenu->addAction(showAction);
-    trayMenu->addAction(exitAction);
-    trayIcon->setContextMenu(trayMenu.get());
+    new TrayIcon(this);
 }
 
 void MainWindow::show_hide(QSystemTrayIcon::ActivationReason reason)
@@ -55,8 +40,8 @@ void MainWindow::show_hide(QSystemTrayIcon::ActivationReason reason)
 void MainWindow::ShowInterface()
 {
     askedFor = true;
-    // Shown, then raised, then focused: the order in which the window comes out of the tray. A later
-    // start and an update raise a window that may be shown already, in orders of their own.
+    // Shown, then raised, then focused: the order in which the window comes out of the tray. A
+    // later start and an update raise a window that may be shown already, in orders of their own.
     show();
     raise();
     setFocus(Qt::OtherFocusReason);
@@ -87,7 +72,8 @@ void MainWindow::SetStyle()
     }
     if (sheet.open(QIODevice::ReadOnly | QIODevice::Text)) {
         const QString text = QTextStream(&sheet).readAll();
-        // Setting the same sheet once more would have Qt work through every widget of the form again.
+        // Setting the same sheet once more would have Qt work through every widget of the form
+        // again.
         if (qApp->styleSheet() != text) {
             qApp->setStyleSheet(text);
         }
@@ -101,8 +87,8 @@ bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 
 bool MainWindow::event(QEvent *event)
 {
-    // Qt makes the native window anew when its flags change, and the new one knows nothing of what the
-    // old one was told; so each is told.
+    // Qt makes the native window anew when its flags change, and the new one knows nothing of what
+    // the old one was told; so each is told.
     if (event->type() == QEvent::WinIdChange && internalWinId() != 0) {
         platform.letTaskBarMinimise(internalWinId());
     }
@@ -117,8 +103,8 @@ void MainWindow::childEvent(QChildEvent *event)
     }
     auto *const child = qobject_cast<QWidget *>(event->child());
     if (child && child->isWindow()) {
-        // Qt quits when the last visible window closes. While this one is in the tray, a message box
-        // would be that last one.
+        // Qt quits when the last visible window closes. While this one is in the tray, a message
+        // box would be that last one.
         child->setAttribute(Qt::WA_QuitOnClose, false);
     }
 }
@@ -168,21 +154,20 @@ void MainWindow::closeEvent(QCloseEvent *event)
 void MainWindow::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton) {
-        dragging = true;
-        pressPosition = event->pos();
+        dragGrip = event->pos();
     }
 }
 
 void MainWindow::mouseMoveEvent(QMouseEvent *event)
 {
-    if (event->buttons().testFlag(Qt::LeftButton) && dragging) {
-        move(pos() + event->pos() - pressPosition);
+    if (event->buttons().testFlag(Qt::LeftButton) && dragGrip) {
+        move(pos() + event->pos() - *dragGrip);
     }
 }
 
 void MainWindow::mouseReleaseEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton) {
-        dragging = false;
+        dragGrip.reset();
     }
 }

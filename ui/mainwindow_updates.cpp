@@ -68,8 +68,8 @@ void MainWindow::showVersions(const QString &installed, const QString &latest)
 
 void MainWindow::offerUpdate()
 {
-    // Raised before it is shown, and activated with a reason of its own: the question below is to be
-    // seen over other programs. ShowInterface() and a later start have other orders, on purpose.
+    // Raised before it is shown, and activated with a reason of its own: the question below is to
+    // be seen over other programs. ShowInterface() and a later start have other orders, on purpose.
     raise();
     show();
     showNormal();
