@@ -8,7 +8,7 @@ MainController::MainController(HSelector *hSelector, SVSelector *svSelector,
     : QObject(parent)
     , hue(hSelector)
     , saturationValue(svSelector)
-    , colourProcessor(processor)
+    , colorProcessor(processor)
     , fieldOwner(window)
 {}
 
@@ -29,12 +29,12 @@ void MainController::changeBlue(const QColor &color)
 
 void MainController::rewriteField(const std::function<void(QColor &)> &change)
 {
-    QColor colour = colourProcessor->colorFromRgbText(fieldOwner->rgbText());
-    change(colour);
+    QColor color = colorProcessor->colorFromRgbText(fieldOwner->rgbText());
+    change(color);
     if (sliders) {
         sliders->disconnect(SIGNAL(RGBChanged(QColor)));
     }
-    const QString text = colourProcessor->rgbTextFromColor(colour);
+    const QString text = colorProcessor->rgbTextFromColor(color);
     fieldOwner->setRgbText(text);
     fieldOwner->updateColorRGB(text);
     if (sliders) {

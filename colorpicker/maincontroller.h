@@ -67,7 +67,7 @@ private:
 
     HSelector *hue;
     SVSelector *saturationValue;
-    ColorProcessor *colourProcessor;
+    ColorProcessor *colorProcessor;
     SlidersController *sliders = nullptr;
     RgbFieldOwner *fieldOwner;
 };

@@ -8,7 +8,7 @@ SlidersController::SlidersController(QObject *parent)
     guards.fill(true);
 }
 
-QColor SlidersController::pureColour(Channel channel, int value)
+QColor SlidersController::pureColor(Channel channel, int value)
 {
     QColor color;
     switch (channel) {
@@ -50,7 +50,7 @@ bool SlidersController::takeMovement(Channel channel)
 void SlidersController::changeHue(int h)
 {
     if (takeMovement(Channel::Hue)) {
-        emit hueChanged(pureColour(Channel::Hue, h));
+        emit hueChanged(pureColor(Channel::Hue, h));
     }
 }
 
@@ -67,7 +67,7 @@ void SlidersController::changeHueFromSelector(const QColor & /*color*/)
 void SlidersController::changeSaturation(int s)
 {
     if (takeMovement(Channel::Saturation)) {
-        emit saturationChanged(pureColour(Channel::Saturation, s));
+        emit saturationChanged(pureColor(Channel::Saturation, s));
     }
 }
 
@@ -84,7 +84,7 @@ void SlidersController::changeSaturationFromSelector(const QColor & /*color*/)
 void SlidersController::changeValue(int v)
 {
     if (takeMovement(Channel::Value)) {
-        emit valueChanged(pureColour(Channel::Value, v));
+        emit valueChanged(pureColor(Channel::Value, v));
     }
 }
 
@@ -101,7 +101,7 @@ void SlidersController::changeValueFromSelector(const QColor & /*color*/)
 void SlidersController::changeRed(int r)
 {
     if (takeMovement(Channel::Red)) {
-        emit redChanged(pureColour(Channel::Red, r));
+        emit redChanged(pureColor(Channel::Red, r));
     }
 }
 
@@ -115,7 +115,7 @@ void SlidersController::changeRedFromSelector(const QColor & /*color*/) {}
 void SlidersController::changeGreen(int g)
 {
     if (takeMovement(Channel::Green)) {
-        emit greenChanged(pureColour(Channel::Green, g));
+        emit greenChanged(pureColor(Channel::Green, g));
     }
 }
 
@@ -129,7 +129,7 @@ void SlidersController::changeGreenFromSelector(const QColor & /*color*/) {}
 void SlidersController::changeBlue(int b)
 {
     if (takeMovement(Channel::Blue)) {
-        emit blueChanged(pureColour(Channel::Blue, b));
+        emit blueChanged(pureColor(Channel::Blue, b));
     }
 }
 
@@ -143,7 +143,7 @@ void SlidersController::changeBlueFromSelector(const QColor & /*color*/) {}
 void SlidersController::changeCyan(int c)
 {
     if (takeMovement(Channel::Cyan)) {
-        emit cyanChanged(pureColour(Channel::Cyan, c));
+        emit cyanChanged(pureColor(Channel::Cyan, c));
     }
 }
 
@@ -157,7 +157,7 @@ void SlidersController::changeCyanFromSelector(const QColor & /*color*/) {}
 void SlidersController::changeMagenta(int m)
 {
     if (takeMovement(Channel::Magenta)) {
-        emit magentaChanged(pureColour(Channel::Magenta, m));
+        emit magentaChanged(pureColor(Channel::Magenta, m));
     }
 }
 
@@ -171,7 +171,7 @@ void SlidersController::changeMagentaFromSelector(const QColor & /*color*/) {}
 void SlidersController::changeYellow(int y)
 {
     if (takeMovement(Channel::Yellow)) {
-        emit yellowChanged(pureColour(Channel::Yellow, y));
+        emit yellowChanged(pureColor(Channel::Yellow, y));
     }
 }
 
@@ -185,7 +185,7 @@ void SlidersController::changeYellowFromSelector(const QColor & /*color*/) {}
 void SlidersController::changeBlack(int k)
 {
     if (takeMovement(Channel::Black)) {
-        emit blackChanged(pureColour(Channel::Black, k));
+        emit blackChanged(pureColor(Channel::Black, k));
     }
 }
 

@@ -21,7 +21,7 @@ public:
 
     /// The colour that has only this channel. @param value hue 0..360, everything else 0..255;
     /// outside of that the colour is invalid.
-    static QColor pureColour(Channel channel, int value);
+    static QColor pureColor(Channel channel, int value);
 
 signals:
     void RGBChanged(QColor);

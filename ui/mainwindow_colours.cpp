@@ -1,6 +1,6 @@
 #include "ui/mainwindow.h"
 
-#include "colorpicker/basiccolours.h"
+#include "colorpicker/basiccolors.h"
 #include "colorpicker/colortyping.h"
 #include "colorpicker/hextyping.h"
 #include "colorpicker/pickergeometry.h"
@@ -88,7 +88,7 @@ void MainWindow::openPicker(ColourTarget target)
     updateColorRGB(colour);
     ui->leRGB->clearFocus();
     ui->label_8->setText(QString::fromLatin1(row.prompt));
-    ui->comboBox_BasicColors->setCurrentIndex(basicColourIndex(ui->leRGB->text()));
+    ui->comboBox_BasicColors->setCurrentIndex(basicColorIndex(ui->leRGB->text()));
     ui->svSelector->setFocus(picker.input.wasMouse() ? Qt::MouseFocusReason : Qt::OtherFocusReason);
 }
 
@@ -169,7 +169,7 @@ void MainWindow::on_pushButton_2_clicked()
 
 void MainWindow::on_comboBox_BasicColors_currentIndexChanged(int index)
 {
-    const QString colour = basicColourText(index);
+    const QString colour = basicColorText(index);
     if (!colour.isEmpty()) {
         updateColorRGB(colour);
     }
@@ -218,7 +218,7 @@ void MainWindow::updateColorText(const QColor &color)
     ui->leRGB->setText(rgb);
     ui->leHex->setText(hex);
     // The list gives up a colour that is shown no more, so that it can be chosen again.
-    if (!picker.colourOnItsWay && !isBasicColour(ui->comboBox_BasicColors->currentIndex(), rgb)) {
+    if (!picker.colourOnItsWay && !isBasicColor(ui->comboBox_BasicColors->currentIndex(), rgb)) {
         ui->comboBox_BasicColors->setCurrentIndex(0);
     }
 }

@@ -1,4 +1,4 @@
-#include "colorpicker/basiccolours.h"
+#include "colorpicker/basiccolors.h"
 #include "colorpicker/colorsample.h"
 #include "colorpicker/hselector.h"
 #include "colorpicker/pickergeometry.h"
@@ -33,8 +33,8 @@ private slots:
     void targets();
     void cancelStoresNothing();
     void wholeKeyboardWritesFourKeys();
-    void basicColours_data();
-    void basicColours();
+    void basicColors_data();
+    void basicColors();
     void chosenPurpleIsNotRecognised();
     void enteredPurpleBecomesTheOther();
     void enteredTextIsNormalised();
@@ -46,8 +46,8 @@ private slots:
     void pastingNothing();
     void selectField();
     void zoneWithoutAColourIsBlack();
-    void basicColourChosenTwice_data();
-    void basicColourChosenTwice();
+    void basicColorChosenTwice_data();
+    void basicColorChosenTwice();
     void chosenColourStaysListed();
     void draggedSampleCopiesNothing_data();
     void draggedSampleCopiesNothing();
@@ -162,7 +162,7 @@ void TestPicker::wholeKeyboardWritesFourKeys()
     QCOMPARE(state.rightWord, wordText(0xF200FF00));
 }
 
-void TestPicker::basicColours_data()
+void TestPicker::basicColors_data()
 {
     QTest::addColumn<QString>("chosen");
     QTest::addColumn<QString>("opensOn");
@@ -179,7 +179,7 @@ void TestPicker::basicColours_data()
     row("Orange", "255 85 0", "255 85 0");
 }
 
-void TestPicker::basicColours()
+void TestPicker::basicColors()
 {
     QFETCH(QString, chosen);
     QFETCH(QString, opensOn);
@@ -189,13 +189,13 @@ void TestPicker::basicColours()
     auto *const list = world.get<QComboBox>("comboBox_BasicColors");
     list->setCurrentIndex(list->findText(name));
     QCOMPARE(text(world, "leRGB"), chosen);
-    QCOMPARE(basicColourText(list->currentIndex()), chosen);
+    QCOMPARE(basicColorText(list->currentIndex()), chosen);
     list->setCurrentIndex(0);
     QCOMPARE(text(world, "leRGB"), chosen); // "None" changes nothing
 
     world.get<QAbstractButton>("colorpick2")->click(); // retargets the open picker
     QCOMPARE(list->currentText(), name);
-    QCOMPARE(basicColourIndex(opensOn), list->currentIndex());
+    QCOMPARE(basicColorIndex(opensOn), list->currentIndex());
 }
 
 void TestPicker::chosenPurpleIsNotRecognised()
@@ -383,7 +383,7 @@ void TestPicker::zoneWithoutAColourIsBlack()
     QCOMPARE(text(world, "leHex"), QStringLiteral("ff0000"));
 }
 
-void TestPicker::basicColourChosenTwice_data()
+void TestPicker::basicColorChosenTwice_data()
 {
     QTest::addColumn<QString>("byHand");
     for (const char *way : {"leRGB", "leHex", "svSelector", "hSelector", "bPasteHex"}) {
@@ -392,7 +392,7 @@ void TestPicker::basicColourChosenTwice_data()
 }
 
 /// A list that still shows a colour's name would not be changed by choosing it again.
-void TestPicker::basicColourChosenTwice()
+void TestPicker::basicColorChosenTwice()
 {
     QFETCH(QString, byHand);
     TestWindow world;
@@ -431,7 +431,7 @@ void TestPicker::chosenColourStaysListed()
             list->setCurrentIndex(former);
             list->setCurrentIndex(index);
             QCOMPARE(list->currentIndex(), index);
-            QCOMPARE(text(world, "leRGB"), basicColourText(index));
+            QCOMPARE(text(world, "leRGB"), basicColorText(index));
         }
     }
     list->setCurrentText(QStringLiteral("Purple"));

@@ -58,8 +58,8 @@ class TestPickerControllers : public QObject
 
 private slots:
     void sliderMethods();
-    void pureColours_data();
-    void pureColours();
+    void pureColors_data();
+    void pureColors();
     void channelColourPassesUnchanged();
     void selectorSwallowsOneMovement();
     void mainMethods();
@@ -102,7 +102,7 @@ void TestPickerControllers::sliderMethods()
     QCOMPARE(ownMethods(SlidersController::staticMetaObject), expected);
 }
 
-void TestPickerControllers::pureColours_data()
+void TestPickerControllers::pureColors_data()
 {
     QTest::addColumn<QString>("channel");
     QTest::addColumn<int>("value");
@@ -123,7 +123,7 @@ void TestPickerControllers::pureColours_data()
     row("Black", 70, QColor::fromCmyk(0, 0, 0, 70));
 }
 
-void TestPickerControllers::pureColours()
+void TestPickerControllers::pureColors()
 {
     QFETCH(QString, channel);
     QFETCH(int, value);

@@ -5,7 +5,7 @@
 #include <array>
 
 /// A colour of the quick list.
-struct BasicColour
+struct BasicColor
 {
     const char *name;    ///< as listed
     const char *chosen;  ///< RGB text that choosing the item sets
@@ -14,7 +14,7 @@ struct BasicColour
 
 /// The quick list after its first item, which stands for no basic colour. The two texts of Purple
 /// differ on purpose.
-constexpr std::array<BasicColour, 8> basicColours{{
+constexpr std::array<BasicColor, 8> basicColors{{
     {"Red", "255 0 0", "255 0 0"},
     {"White", "255 255 255", "255 255 255"},
     {"Blue", "0 0 255", "0 0 255"},
@@ -26,10 +26,10 @@ constexpr std::array<BasicColour, 8> basicColours{{
 }};
 
 /// The list index whose colour is exactly @p rgbText; 0 when there is none.
-inline int basicColourIndex(const QString &rgbText)
+inline int basicColorIndex(const QString &rgbText)
 {
-    for (std::size_t i = 0; i < basicColours.size(); ++i) {
-        if (rgbText == QLatin1String(basicColours.at(i).matched)) {
+    for (std::size_t i = 0; i < basicColors.size(); ++i) {
+        if (rgbText == QLatin1String(basicColors.at(i).matched)) {
             return static_cast<int>(i) + 1;
         }
     }
@@ -37,20 +37,20 @@ inline int basicColourIndex(const QString &rgbText)
 }
 
 /// Whether either text of a list index is @p rgbText; the first item goes with any.
-inline bool isBasicColour(int index, const QString &rgbText)
+inline bool isBasicColor(int index, const QString &rgbText)
 {
-    if (index < 1 || index > static_cast<int>(basicColours.size())) {
+    if (index < 1 || index > static_cast<int>(basicColors.size())) {
         return index == 0;
     }
-    const BasicColour &colour = basicColours.at(static_cast<std::size_t>(index) - 1);
-    return rgbText == QLatin1String(colour.chosen) || rgbText == QLatin1String(colour.matched);
+    const BasicColor &color = basicColors.at(static_cast<std::size_t>(index) - 1);
+    return rgbText == QLatin1String(color.chosen) || rgbText == QLatin1String(color.matched);
 }
 
 /// The RGB text of a list index; empty for the first item and outside the list.
-inline QString basicColourText(int index)
+inline QString basicColorText(int index)
 {
-    if (index < 1 || index > static_cast<int>(basicColours.size())) {
+    if (index < 1 || index > static_cast<int>(basicColors.size())) {
         return {};
     }
-    return QString::fromLatin1(basicColours.at(static_cast<std::size_t>(index) - 1).chosen);
+    return QString::fromLatin1(basicColors.at(static_cast<std::size_t>(index) - 1).chosen);
 }
