@@ -66,7 +66,6 @@ void TestProgram::startShown(const QByteArray &settings)
     QVERIFY(program->startAndServe());
     QTRY_VERIFY(ProgramWindow::shown() != 0);
     QTest::qWait(Lines::appliedAfterMs);
-    // After the program has the port: the twin would take it.
     twin = std::make_unique<TestWindow>();
     twin->construct();
 }

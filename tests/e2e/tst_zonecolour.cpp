@@ -117,7 +117,6 @@ void TestZoneColour::init()
     QVERIFY(program->startAndServe());
     QTRY_VERIFY(ProgramWindow::shown() != 0);
     QTest::qWait(Lines::appliedAfterMs);
-    // After the program has the port: the twin would take it.
     twin = std::make_unique<TestWindow>();
     twin->writeSettings(Lines::threeZonesSettings);
     twin->start();

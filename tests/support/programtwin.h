@@ -8,8 +8,7 @@
 #include <QByteArray>
 #include <QFont>
 
-/// A window of this process laid out like the running program's: it tells where to click. Made when
-/// the program has the port, or the twin would take it.
+/// A window of this process laid out like the running program's: it tells where to click.
 class ProgramTwin
 {
 public:
