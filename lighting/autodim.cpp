@@ -3,10 +3,11 @@
 namespace {
 
 constexpr int pointsPerPoll = 2;
-/// Codes 1 to 6.
+/// Codes 1 to 6, which the mouse has.
 const KeyPresses mouseCodes(0b111'1110);
 
-/// Right across the wrap of the 32 bits, and negative for input noted after the time was taken.
+/// Milliseconds since the last activity: correct also where the 32 bits have wrapped in between,
+/// and negative where input was noted after the poll had looked at the clock.
 qint32 elapsed(const DimState &state, const DimPoll &poll)
 {
     return static_cast<qint32>(poll.now - state.lastActivity);

@@ -33,7 +33,7 @@ struct DimPoll
 
 /// What the user is told of auto-dim.
 enum class DimPhase {
-    Watching, ///< for the time to dim to come
+    Watching, ///< waits for the idle time to pass
     Dimming,
     Dimmed, ///< as far as it goes
 };

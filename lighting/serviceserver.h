@@ -9,8 +9,8 @@
 
 class Platform;
 
-/// The Service Server: whoever connects is given one line and sent away. Which line, the owner
-/// says, for one client at each newConnection().
+/// The Service Server: each client that connects receives one line, then its connection is closed.
+/// The owner calls answer() at each newConnection(), with the line of that moment.
 class ServiceServer : public QTcpServer
 {
     Q_OBJECT
@@ -19,13 +19,13 @@ public:
     /// @param platform not owned; must live longer than the server
     ServiceServer(const ServiceEndpoint &endpoint, Platform &platform, QObject *parent);
 
-    /// Listens from now on, and says in the log whether that could be had. Without it the program
-    /// runs on, and agents find nobody.
+    /// Starts to listen, and logs whether that succeeded. Where it fails, the program runs on
+    /// without a server.
     void start();
 
     /// Sends the frame of a line to the client that has waited longest and closes its connection.
     /// Reads nothing from it and waits for nothing.
-    /// @param line asked for once; not at all where nobody waits
+    /// @param line called once for the client; not at all where none waits
     void answer(const std::function<QString()> &line);
 
     /// So many clients in a row are accepted before everything else has its turn.

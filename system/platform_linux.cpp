@@ -81,7 +81,7 @@ public:
         return FileLock::acquire(QDir::temp().filePath(name + QStringLiteral(".lock")), timeoutMs);
     }
 
-    /// Every process may.
+    /// Every process may put its windows in front here.
     void letComeToFront(qint64 /*processId*/) override {}
 
     void lengthenListenQueue(qintptr socketDescriptor) override
@@ -89,7 +89,7 @@ public:
         ::listen(static_cast<int>(socketDescriptor), SOMAXCONN);
     }
 
-    /// It minimises any window.
+    /// The window managers of this system minimise any window.
     void letTaskBarMinimise(quintptr /*window*/) override {}
 
     KeyPresses keysPressedSinceLastPoll() override
@@ -100,7 +100,7 @@ public:
         return keyPresses->takePresses();
     }
 
-    /// logind tells it.
+    /// logind tells of it over D-Bus, see notifyOfResume().
     bool isResumeMessage(const QByteArray & /*eventType*/, const void * /*message*/) const override
     {
         return false;

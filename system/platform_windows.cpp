@@ -123,7 +123,7 @@ public:
         return msg->message == WM_POWERBROADCAST && msg->wParam == PBT_APMRESUMESUSPEND;
     }
 
-    /// Windows tells it by a message.
+    /// Windows tells of it by a message, see isResumeMessage().
     void notifyOfResume(std::function<void()> /*resumed*/) override {}
 
     void sleep(int milliseconds) override { ::Sleep(static_cast<DWORD>(milliseconds)); }

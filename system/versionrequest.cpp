@@ -20,7 +20,7 @@ QUrl versionUrl(const QString &server)
 VersionRequest::VersionRequest(const QUrl &url)
     : reply(manager.get(QNetworkRequest(url)))
 {
-    // Keeps what is not read yet out of the memory, too.
+    // The rest of a long answer is not fetched either, instead of waiting in memory.
     reply->setReadBufferSize(maxBytes);
     connect(reply, SIGNAL(readyRead()), this, SLOT(takeBody()));
     connect(reply, SIGNAL(finished()), this, SLOT(takeBody()));
@@ -35,7 +35,7 @@ bool VersionRequest::isFinished() const
 void VersionRequest::takeBody()
 {
     if (!reply->isOpen()) {
-        return; // given up below
+        return; // abort() below has closed it
     }
     body += reply->read(maxBytes - body.size());
     if (body.size() == maxBytes && reply->isRunning()) {

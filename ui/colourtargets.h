@@ -44,7 +44,7 @@ inline constexpr std::array<ColourTargetRow, 5> colourTargets{{
      &Ui_MainWindow::stripe_led},
 }};
 
-/// The three that take the keyboard's place, each with a zone of its own.
+/// The three that share the keyboard, each with a zone of its own.
 inline constexpr std::array<ColourTarget, 3> keyboardZones{ColourTarget::Left, ColourTarget::Centre,
                                                            ColourTarget::Right};
 
@@ -53,7 +53,7 @@ constexpr const ColourTargetRow &rowOf(ColourTarget target)
     return colourTargets.at(static_cast<std::size_t>(target) - 1);
 }
 
-/// The target of a number that comes from outside; nothing where it is none's.
+/// The target of a number that a caller by name may give; nothing where there is none.
 constexpr std::optional<ColourTarget> colourTarget(int number)
 {
     if (number < 1 || number > static_cast<int>(colourTargets.size())) {

@@ -89,7 +89,8 @@ void MainWindow::delayedApply()
     ui->comboDimValue->setCurrentIndex(settings.read(SettingKeys::dimTimer));
     ui->horizontalSlider->setValue(settings.read(SettingKeys::brightLevel));
     dim.userBrightness = ui->horizontalSlider->value();
-    // A tick during loading noted its brightness and applied nothing.
+    // brightnessapply() may have run while loading: it noted the brightness without applying it,
+    // and would find nothing new from now on.
     lastAppliedBrightness = nothingApplied;
     dim.active = false; // the slider is the user's again, also where an effect keeps polls off
     showBrightness("%");

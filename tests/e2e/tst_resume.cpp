@@ -51,7 +51,7 @@ void TestResume::init()
     program = std::make_unique<ProgramProcess>();
 }
 
-/// Starts and drinks the wake lines of the start.
+/// Starts, and takes the two wake lines of the start.
 void TestResume::startWithColours(const QByteArray &settings, const QString &line)
 {
     ProgramProcess::writeSettings(settings);

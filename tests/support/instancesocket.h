@@ -6,7 +6,7 @@
 
 class QLocalSocket;
 
-/// What later starts of the program meet the running one under.
+/// The local socket by which a later start of the program tells the running one of itself.
 namespace InstanceSocket {
 
 /// A connection to the running program, as any process of its user can have it; ends the test
