@@ -70,7 +70,7 @@ MainWindow::MainWindow(AppSettings appSettings, Platform &system, PrimaryRole &r
     serviceServer->start();
     connect(serviceServer, SIGNAL(newConnection()), this, SLOT(sendFortune()));
 
-    if (wasClosed) {
+    if (shell.closed) {
         // "Exit" was chosen while the check for updates waited, before there was an event loop that
         // it could end. It is to end as soon as it begins, and nothing is to be seen until then.
         setAttribute(Qt::WA_DontShowOnScreen);

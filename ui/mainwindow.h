@@ -58,7 +58,7 @@ public:
     const QString &lastCommandLine() const { return commandLine; }
 
     /// Whether the user has asked to see the window, and not hidden it again.
-    bool wasAskedFor() const { return askedFor; }
+    bool wasAskedFor() const { return shell.askedFor; }
 
     /// Lets every event through to its own receiver.
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -232,13 +232,25 @@ private:
     /// Slider value that brightnessapply() last acted on.
     qint32 lastAppliedBrightness = nothingApplied;
 
-    /// The user has asked for the check of the version and wants to hear of no update, too. Stays
-    /// set when there is one, on purpose.
-    bool manualCheck = false;
-    bool checkingVersion = false;
-    bool wasClosed = false;
-    bool askedFor = false;
-    bool sizesAdapted = false;
+    /// The check of the version.
+    struct VersionCheck
+    {
+        bool waiting = false; ///< for the server's answer
+        /// The user has asked for it and wants to hear of no update, too. Stays set when there is
+        /// one, on purpose.
+        bool byHand = false;
+    };
+    VersionCheck versionCheck;
+
+    /// The window as a whole, see mainwindow_shell.cpp.
+    struct Shell
+    {
+        bool sizesAdapted = false;      ///< to the display's density
+        bool askedFor = false;          ///< see wasAskedFor()
+        bool closed = false;            ///< and with it the program
+        std::optional<QPoint> dragGrip; ///< where the mouse holds the window that it drags
+    };
+    Shell shell;
 
     /// The open picker, or the one that was open last.
     struct Picker
@@ -256,7 +268,4 @@ private:
     MyEventFilter eventFilterForResume;
     QTimer *companionTimer = nullptr;
     QTimer *dimTimer = nullptr;
-
-    /// Where the mouse holds the window that it drags.
-    std::optional<QPoint> dragGrip;
 };

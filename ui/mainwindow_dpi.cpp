@@ -81,7 +81,7 @@ void MainWindow::DPIfixes()
         const QScreen *const home = screen ? screen : QGuiApplication::primaryScreen();
         setGeometry(WindowPlace::movedInto(grown, home->availableGeometry()));
     }
-    sizesAdapted = true;
+    shell.sizesAdapted = true;
 }
 
 void MainWindow::enlargeForBand(const DpiBand &band)

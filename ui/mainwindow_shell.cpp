@@ -28,7 +28,7 @@ void MainWindow::show_hide(QSystemTrayIcon::ActivationReason reason)
         return;
     }
     if (isVisible()) {
-        askedFor = false;
+        shell.askedFor = false;
         hide();
     } else if (ui->UsePerKeyApp->isChecked()) {
         startPerKeyApplication();
@@ -39,7 +39,7 @@ void MainWindow::show_hide(QSystemTrayIcon::ActivationReason reason)
 
 void MainWindow::ShowInterface()
 {
-    askedFor = true;
+    shell.askedFor = true;
     // Shown, then raised, then focused: the order in which the window comes out of the tray. A
     // later start and an update raise a window that may be shown already, in orders of their own.
     show();
@@ -112,7 +112,7 @@ void MainWindow::childEvent(QChildEvent *event)
 void MainWindow::showEvent(QShowEvent *event)
 {
     if (!event->spontaneous()) {
-        if (!sizesAdapted) {
+        if (!shell.sizesAdapted) {
             DPIfixes(); // somebody asks for the window, or it asks something, before it is finished
         }
         comeBackToAScreen();
@@ -138,12 +138,12 @@ void MainWindow::closeEvent(QCloseEvent *event)
     // not to be held up, come otherwise.
     if (event->spontaneous() && ui->Check_CloseHides->isChecked() && !qApp->isSavingSession()) {
         event->ignore();
-        askedFor = false;
+        shell.askedFor = false;
         hide();
         return;
     }
     QMainWindow::closeEvent(event);
-    wasClosed = true;
+    shell.closed = true;
     emit closed();
     const auto boxes = findChildren<QMessageBox *>();
     for (QMessageBox *box : boxes) {
@@ -154,20 +154,20 @@ void MainWindow::closeEvent(QCloseEvent *event)
 void MainWindow::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton) {
-        dragGrip = event->pos();
+        shell.dragGrip = event->pos();
     }
 }
 
 void MainWindow::mouseMoveEvent(QMouseEvent *event)
 {
-    if (event->buttons().testFlag(Qt::LeftButton) && dragGrip) {
-        move(pos() + event->pos() - *dragGrip);
+    if (event->buttons().testFlag(Qt::LeftButton) && shell.dragGrip) {
+        move(pos() + event->pos() - *shell.dragGrip);
     }
 }
 
 void MainWindow::mouseReleaseEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton) {
-        dragGrip.reset();
+        shell.dragGrip.reset();
     }
 }

@@ -36,13 +36,13 @@ QString MainWindow::CheckAppVersion()
 
 void MainWindow::SetAppVersion()
 {
-    if (checkingVersion) {
+    if (versionCheck.waiting) {
         return; // the check that waits also answers this call
     }
-    checkingVersion = true;
+    versionCheck.waiting = true;
     ui->Button_Update->setEnabled(false);
     const std::optional<QString> latest = fetchLatestVersion();
-    checkingVersion = false;
+    versionCheck.waiting = false;
     if (latest) {
         showVersions(QCoreApplication::applicationVersion(), *latest);
     }
@@ -60,9 +60,9 @@ void MainWindow::showVersions(const QString &installed, const QString &latest)
     settings.write(WorkKeys::updatePending, updateWaits);
     if (updateWaits) {
         offerUpdate();
-    } else if (manualCheck) {
+    } else if (versionCheck.byHand) {
         tell(this, {Messages::updateTitle, texts.notice});
-        manualCheck = false;
+        versionCheck.byHand = false;
     }
 }
 
@@ -85,7 +85,7 @@ void MainWindow::offerUpdate()
 
 void MainWindow::on_Button_CheckforUpdate_clicked()
 {
-    manualCheck = true;
+    versionCheck.byHand = true;
     SetAppVersion();
 }
 
