@@ -8,11 +8,11 @@ import unittest
 
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(pathlib.Path(__file__).parents[1] / "support"))
-from screenreader import COMBO_BOX, LABEL, PAGE_TAB, Program, accessibility_bus, wait_for  # noqa: E402
+from screenreader import Announcements, COMBO_BOX, LABEL, PAGE_TAB, Program, accessibility_bus, wait_for  # noqa: E402
 
 EXECUTABLE = sys.argv.pop(1)
 SETTINGS = ("backlight_on=true\nbrightlevel=100\nP751LEDStripe=true\nZone1Color=255 0 0\n"
-            "Zone2Color=0 255 0\nZone3Color=0 0 255\nStripeLid=1 2 3\n")
+            "Zone2Color=0 255 0\nZone3Color=0 0 255\nStripeLid=128 0 0\n")
 OFF = "3758108672,3758108672,3758108672,3758108672,0"
 SETTLED_AFTER_SECONDS = 1.5  # settings are applied a second after the start
 
@@ -112,6 +112,28 @@ class ScreenReader(unittest.TestCase):
         self.wait_for_stored("Zone2Color", "10 20 30")
         # Zone 0xF1, blue 30, red 10, green 20.
         self.assertEqual(answer().split(",")[1], str(0xF11E0A14))
+
+    def test_changes_of_the_colour_are_announced(self):
+        strip = ("Hue", "accessible-value")
+        square = ("Saturation and value", "accessible-description")
+        sample = ("Selected color", "accessible-description")
+        self.find(BUTTON, "Left zone color").press()
+        hue = self.find(SLIDER, "Hue")
+        with Announcements() as announcements:
+            # Until the program knows that somebody listens.
+            wait_for(lambda: hue.set_value(60) or announcements.come(strip), "a first word")
+            announcements.forget()
+            hue.set_value(240)
+            wait_for(lambda: announcements.come(strip, square, sample), "a hue by hand")
+            self.find(BUTTON, "Cancel").press()
+            announcements.forget()
+            self.find(BUTTON, "Left zone color").press()
+            wait_for(lambda: announcements.come(strip, square, sample), "a colour that is loaded")
+            self.find(BUTTON, "Cancel").press()
+            self.find(PAGE_TAB, "Stripe").press()
+            announcements.forget()
+            self.find(BUTTON, "Stripe color").press()  # of the same hue
+            wait_for(lambda: announcements.come(square, sample), "a darker colour")
 
     def test_the_sample_copies_and_cancel_closes(self):
         self.find(BUTTON, "Left zone color").press()
