@@ -324,7 +324,7 @@ class Order:
         words = [word for word in change.old.replace('"', " ").split() if len(word) > 3]
 
         def cost(name):
-            ran = [line for line, tests in self.reach.lines[change.file].items() if name in tests]
+            ran = self.reach.seen[name]["lines"].get(change.file, {}).get("ran", ())
             likely = 0.02 + len(ran) / (self.reach.size[name] + 1)
             likely += 0.2 * (subject in self.texts[name] or subject in name)
             likely += 0.2 * sum(word in self.texts[name] for word in words[:3])

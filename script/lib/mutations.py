@@ -151,7 +151,7 @@ class CppPlaces(Places):
                 continue
             if token.kind == "number":
                 if self.tokens[i - 1].text != "=" or self.tokens[i - 2].text not in (")", "const"):
-                    self.number(token)  # and no pure virtual function
+                    self.number(i)  # and no pure virtual function
             elif token.kind == "string":
                 self.string(i)
             elif token.kind == "char":
@@ -185,13 +185,20 @@ class CppPlaces(Places):
     def span(self, first, last):
         return self.text[self.tokens[first].start:self.tokens[last].end]
 
-    def number(self, token):
+    def is_of_time(self, i):
+        """Whether a statement begins here with a name in milliseconds."""
+        return i > 1 and self.tokens[i - 1].text == "=" and self.tokens[i - 2].text.endswith("Ms")
+
+    def number(self, i):
+        token = self.tokens[i]
         digits = token.text.replace("'", "")
         suffix = re.search(r"[uUlL]*$", digits).group()
         try:
             value = int(digits[:len(digits) - len(suffix)], 0)
             hexadecimal = digits[:2].lower() == "0x"
             others = {value + 1, max(value - 1, 0), value * 2 if value > 4 else 0}
+            if self.is_of_time(i):
+                others = {value * 2, value // 4}  # of a thousandth of a second nobody can tell
             texts = [f"{other:#x}" if hexadecimal else str(other) for other in sorted(others)]
         except ValueError:
             try:
