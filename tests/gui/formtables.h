@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QObject>
+#include <QSizePolicy>
 
 #include <array>
 
@@ -133,15 +134,29 @@ struct SpacerRow
 {
     const char *layout;
     int row;
+    int height;
+    QSizePolicy::Policy policy = QSizePolicy::Expanding;
 };
 inline constexpr std::array verticalSpacers{
-    SpacerRow{"gridLayout_13", 3}, SpacerRow{"gridLayout_13", 5}, SpacerRow{"gridLayout_3", 2},
-    SpacerRow{"gridLayout_3", 4},  SpacerRow{"gridLayout_6", 2},  SpacerRow{"gridLayout_6", 4},
-    SpacerRow{"gridLayout_12", 2}, SpacerRow{"gridLayout_12", 4}, SpacerRow{"gridLayout_14", 2},
-    SpacerRow{"gridLayout_14", 4}, SpacerRow{"gridLayout_11", 1}, SpacerRow{"gridLayout_11", 3},
-    SpacerRow{"gridLayout_11", 5}, SpacerRow{"gridLayout_2", 1},  SpacerRow{"gridLayout_7", 1},
-    SpacerRow{"gridLayout_7", 3},  SpacerRow{"gridLayout_7", 5},  SpacerRow{"gridLayout_8", 1},
-    SpacerRow{"gridLayout_8", 3},
+    SpacerRow{"gridLayout_13", 3, 8},
+    SpacerRow{"gridLayout_13", 5, 8},
+    SpacerRow{"gridLayout_3", 2, 8},
+    SpacerRow{"gridLayout_3", 4, 8},
+    SpacerRow{"gridLayout_6", 2, 8},
+    SpacerRow{"gridLayout_6", 4, 8},
+    SpacerRow{"gridLayout_12", 2, 8},
+    SpacerRow{"gridLayout_12", 4, 8},
+    SpacerRow{"gridLayout_14", 2, 8},
+    SpacerRow{"gridLayout_14", 4, 8},
+    SpacerRow{"gridLayout_11", 1, 0, QSizePolicy::Fixed},
+    SpacerRow{"gridLayout_11", 3, 8},
+    SpacerRow{"gridLayout_11", 5, 8},
+    SpacerRow{"gridLayout_2", 1, 2, QSizePolicy::Fixed},
+    SpacerRow{"gridLayout_7", 1, 2},
+    SpacerRow{"gridLayout_7", 3, 2},
+    SpacerRow{"gridLayout_7", 5, 2},
+    SpacerRow{"gridLayout_8", 1, 2},
+    SpacerRow{"gridLayout_8", 3, 2},
 };
 
 /// One page of a tab widget.

@@ -1,4 +1,5 @@
 #include "formlooks.h"
+#include "formspaces.h"
 #include "formtables.h"
 #include "formwindow.h"
 
@@ -61,6 +62,12 @@ int countRows(const std::array<Row, size> &table, const char *Row::*name, const 
     }));
 }
 
+/// One of several numbers with commas between them; 0 where there are fewer.
+int number(const char *list, int index)
+{
+    return QString::fromLatin1(list).section(QLatin1Char(','), index, index).toInt();
+}
+
 } // namespace
 
 /// Holds the live form against the tables of formtables.h and formlooks.h, row by row.
@@ -78,9 +85,12 @@ private slots:
     void layout();
     void widget_data();
     void widget();
+    void spaces_data();
+    void spaces();
     void verticalSpacer_data();
     void verticalSpacer();
     void effectsBarSpacer();
+    void pickerSpacers();
     void page_data();
     void page();
     void comboItems_data();
@@ -97,6 +107,7 @@ private:
     }
     void checkPlace(const formtables::Place &place, const QObject *object) const;
     void checkLooks(const QWidget &widget, const char *object) const;
+    static void checkSpacer(QLayoutItem &item, int height, QSizePolicy::Policy policy);
 
     std::unique_ptr<QMainWindow> window;
 };
@@ -166,6 +177,8 @@ void TestForm::checkPlace(const formtables::Place &place, const QObject *object)
     QVERIFY(layout);
     const int index = itemIndex(*layout, object);
     QVERIFY2(index >= 0, place.holder);
+    const auto *aligned = formtables::find(formtables::itemAlignments, place.object);
+    QCOMPARE(layout->itemAt(index)->alignment(), aligned ? aligned->alignment : Qt::Alignment());
     if (auto *grid = qobject_cast<QGridLayout *>(layout)) {
         int row = -1;
         int column = -1;
@@ -262,27 +275,54 @@ void TestForm::checkLooks(const QWidget &widget, const char *object) const
             || !qstrcmp(object, "tabWidget_2"));
 }
 
+void TestForm::spaces_data()
+{
+    addRows(formtables::spaces, &formtables::Spaces::layout);
+}
+
+void TestForm::spaces()
+{
+    QFETCH(int, index);
+    const formtables::Spaces &row = formtables::spaces.at(static_cast<std::size_t>(index));
+    const auto *layout = window->findChild<QLayout *>(QLatin1String(row.layout));
+    QVERIFY(layout);
+    QCOMPARE(layout->contentsMargins(), row.margins);
+    if (const auto *box = qobject_cast<const QBoxLayout *>(layout)) {
+        QVERIFY(row.across == formtables::byStyle || box->spacing() == row.across);
+        for (int i = 0; i < box->count(); ++i) {
+            QCOMPARE(box->stretch(i), number(row.rows, i));
+        }
+        return;
+    }
+    const auto *grid = qobject_cast<const QGridLayout *>(layout);
+    QVERIFY(grid);
+    QVERIFY(row.across == formtables::byStyle || grid->horizontalSpacing() == row.across);
+    QVERIFY(row.down == formtables::byStyle || grid->verticalSpacing() == row.down);
+    for (int i = 0; i < grid->rowCount(); ++i) {
+        QCOMPARE(grid->rowStretch(i), number(row.rows, i));
+        QCOMPARE(grid->rowMinimumHeight(i), number(row.leastHeights, i));
+    }
+    for (int i = 0; i < grid->columnCount(); ++i) {
+        QCOMPARE(grid->columnStretch(i), number(row.columns, i));
+    }
+}
+
 void TestForm::verticalSpacer_data()
 {
-    QTest::addColumn<QString>("layout");
-    QTest::addColumn<int>("row");
-    for (const auto &spacer : formtables::verticalSpacers) {
-        QTest::addRow("%s row %d", spacer.layout, spacer.row)
-            << QString::fromLatin1(spacer.layout) << spacer.row;
-    }
+    addRows(formtables::verticalSpacers, &formtables::SpacerRow::layout);
 }
 
 void TestForm::verticalSpacer()
 {
-    QFETCH(QString, layout);
-    QFETCH(int, row);
-    auto *grid = window->findChild<QGridLayout *>(layout);
+    QFETCH(int, index);
+    const auto &row = formtables::verticalSpacers.at(static_cast<std::size_t>(index));
+    auto *grid = window->findChild<QGridLayout *>(QLatin1String(row.layout));
     QVERIFY(grid);
-    QLayoutItem *item = grid->itemAtPosition(row, 0);
+    QLayoutItem *item = grid->itemAtPosition(row.row, 0);
     QVERIFY(item);
-    QVERIFY(item->spacerItem());
+    checkSpacer(*item, row.height, row.policy);
     for (int column = 1; column < grid->columnCount(); ++column) {
-        QLayoutItem *other = grid->itemAtPosition(row, column);
+        QLayoutItem *other = grid->itemAtPosition(row.row, column);
         QVERIFY(!other || other == item);
     }
 }
@@ -296,6 +336,26 @@ void TestForm::effectsBarSpacer()
     QVERIFY(item->spacerItem());
     QCOMPARE(item->sizeHint(), QSize(50, 20));
     QCOMPARE(item->spacerItem()->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
+}
+
+/// Between the picker's fields, its list and its buttons.
+void TestForm::pickerSpacers()
+{
+    auto *box = window->findChild<QBoxLayout *>(QStringLiteral("verticalLayout_7"));
+    QVERIFY(box);
+    for (const int index : {2, 5}) {
+        QVERIFY(box->itemAt(index));
+        checkSpacer(*box->itemAt(index), 8, QSizePolicy::Expanding);
+    }
+}
+
+void TestForm::checkSpacer(QLayoutItem &item, int height, QSizePolicy::Policy policy)
+{
+    const QSpacerItem *spacer = item.spacerItem();
+    QVERIFY(spacer);
+    QCOMPARE(spacer->sizeHint(), QSize(1, height));
+    QCOMPARE(spacer->sizePolicy().horizontalPolicy(), QSizePolicy::Minimum);
+    QCOMPARE(spacer->sizePolicy().verticalPolicy(), policy);
 }
 
 void TestForm::page_data()
