@@ -1,16 +1,73 @@
 #include "ui/messages.h"
 
+#include "ui/evenlines.h"
+
+#include <QLabel>
+#include <QLayout>
 #include <QMessageBox>
+#include <QShowEvent>
+
+#include <algorithm>
 
 namespace {
 
+/// The widest that the lines of a box get: in sizes of its font, but in pixels no more than a large
+/// font finds on a common screen.
+constexpr int widestLineInFontSizes = 35;
+constexpr int widestLine = 800;
+
+/// A message box that is as wide as its text in lines of even length wants it. Qt's own is either
+/// narrower than 500 pixels and never wrapped, or wrapped to those, be the font large or small; a
+/// last word may then stand on a line of its own.
+class EvenBox final : public QMessageBox
+{
+public:
+    using QMessageBox::QMessageBox;
+
+protected:
+    bool event(QEvent *event) override
+    {
+        if (fitted && event->type() == QEvent::LayoutRequest) {
+            return QDialog::event(event); // the base's answer would be its own width
+        }
+        return QMessageBox::event(event);
+    }
+
+    void showEvent(QShowEvent *event) override
+    {
+        QMessageBox::showEvent(event);
+        if (!fitted) {
+            fitted = true;
+            const QPoint middle = geometry().center();
+            fit();
+            move(middle - rect().center());
+        }
+    }
+
+private:
+    void fit()
+    {
+        auto *const label = findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
+        const int fontSize = label->fontInfo().pixelSize();
+        label->setWordWrap(true);
+        label->setFixedWidth(evenWidth(text(), label->font(),
+                                       std::min(fontSize * widestLineInFontSizes, widestLine)));
+        layout()->activate();
+        const int width = layout()->totalMinimumSize().width();
+        setFixedSize(width, layout()->totalHeightForWidth(width));
+    }
+
+    bool fitted = false;
+};
+
 int show(QWidget *window, const Message &message, QMessageBox::Icon icon,
-         QMessageBox::StandardButtons buttons)
+         QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preset)
 {
     // The flag must be there when the box is made: set alone afterwards it would take the others
     // away and make the box a child inside the window.
-    QMessageBox box(icon, QString::fromLatin1(message.title), QString::fromLatin1(message.text),
-                    buttons, window, Qt::FramelessWindowHint);
+    EvenBox box(icon, QString::fromLatin1(message.title), QString::fromLatin1(message.text),
+                buttons, window, Qt::FramelessWindowHint);
+    box.setDefaultButton(preset);
     return box.exec();
 }
 
@@ -18,11 +75,12 @@ int show(QWidget *window, const Message &message, QMessageBox::Icon icon,
 
 bool ask(QWidget *window, const Message &question)
 {
-    return show(window, question, QMessageBox::Question, QMessageBox::Yes | QMessageBox::No)
+    return show(window, question, QMessageBox::Question, QMessageBox::Yes | QMessageBox::No,
+                QMessageBox::No)
            == QMessageBox::Yes;
 }
 
 void tell(QWidget *window, const Message &notice)
 {
-    show(window, notice, QMessageBox::Information, QMessageBox::Ok);
+    show(window, notice, QMessageBox::Information, QMessageBox::Ok, QMessageBox::Ok);
 }

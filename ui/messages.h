@@ -70,7 +70,9 @@ constexpr const char *brightnessSuffix(DimPhase phase)
 }
 } // namespace Messages
 
-/// Asks with Yes and No; true only for Yes. Blocks until there is an answer.
+/// Asks with Yes and No; true only for Yes. No is the button that Enter presses: every question is
+/// about something that is installed or removed, and some come unasked for. Blocks until there is
+/// an answer.
 bool ask(QWidget *window, const Message &question);
 
 /// Tells, with OK. Blocks until the box is closed.

@@ -1,0 +1,251 @@
+#include "tests/support/boxwatcher.h"
+#include "tests/support/testwindow.h"
+#include "ui/darkstyle.h"
+#include "ui/evenlines.h"
+#include "ui/messages.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <QTextLayout>
+#include <QtTest>
+
+namespace {
+
+struct Row
+{
+    const char *name;
+    const Message &message;
+};
+
+const std::array questions{
+    Row{"firmware library", Messages::installFirmwareLibrary},
+    Row{"update", Messages::updateNow},
+    Row{"update with rights", Messages::updateNeedsRights},
+    Row{"uninstall", Messages::uninstallNeedsRights},
+    Row{"per-key", Messages::perKeyNeedsRights},
+};
+
+/// The lines of one paragraph at that width.
+QStringList linesOf(const QString &paragraph, const QFont &font, int width)
+{
+    QTextLayout layout(paragraph, font);
+    layout.beginLayout();
+    QStringList lines;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        lines += paragraph.mid(line.textStart(), line.textLength()).trimmed();
+    }
+    layout.endLayout();
+    return lines;
+}
+
+QLabel &textLabel(const QMessageBox &box)
+{
+    return *widget<QLabel>(box, "qt_msgbox_label");
+}
+
+} // namespace
+
+/// What the message boxes look like, and what Enter answers.
+class TestMessages : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void evenLines_data();
+    void evenLines();
+    void enterIsNo_data();
+    void enterIsNo();
+    void enterClosesANotice();
+    void iconsAreOurs_data();
+    void iconsAreOurs();
+    void noLineHasOneWord_data();
+    void noLineHasOneWord();
+
+private:
+    std::unique_ptr<TestWindow> world;
+};
+
+void TestMessages::initTestCase()
+{
+    QApplication::setStyle(new DarkStyle);
+}
+
+void TestMessages::init()
+{
+    QFont font = QApplication::font();
+    font.setPixelSize(12);
+    QApplication::setFont(font);
+    world = std::make_unique<TestWindow>();
+    world->start().show();
+    QVERIFY(QTest::qWaitForWindowExposed(world->window.get()));
+}
+
+void TestMessages::cleanup()
+{
+    world.reset();
+}
+
+void TestMessages::evenLines_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("ofLongest"); // widest, in hundredths of the text's longest paragraph
+    QTest::addColumn<int>("lines");
+    QTest::newRow("one line") << QStringLiteral("some words") << 120 << 1;
+    QTest::newRow("just so") << QStringLiteral("some words") << 100 << 1;
+    QTest::newRow("two lines") << QStringLiteral("one two three four five six") << 95 << 2;
+    QTest::newRow("three lines") << QStringLiteral("aa bb cc dd ee ff gg hh ii jj kk ll") << 40
+                                 << 3;
+    QTest::newRow("paragraphs") << QStringLiteral("short\none two three four five six") << 95 << 3;
+    QTest::newRow("no text") << QString() << 100 << 0;
+}
+
+void TestMessages::evenLines()
+{
+    QFETCH(QString, text);
+    QFETCH(int, ofLongest);
+    QFETCH(int, lines);
+    const QFont font = QApplication::font();
+    int longest = 1;
+    for (const QString &paragraph : text.split(QLatin1Char('\n'))) {
+        longest = std::max(longest, QFontMetrics(font).horizontalAdvance(paragraph) + 1);
+    }
+    const auto linesAt = [&](int width) {
+        int count = 0;
+        for (const QString &paragraph : text.split(QLatin1Char('\n'))) {
+            count += linesOf(paragraph, font, width).size();
+        }
+        return text.isEmpty() ? 0 : count;
+    };
+    const int widest = longest * ofLongest / 100;
+    const int width = evenWidth(text, font, widest);
+    QVERIFY(width <= widest);
+    QCOMPARE(linesAt(width), lines);
+    QCOMPARE(linesAt(widest), lines);
+    if (!text.isEmpty()) {
+        QVERIFY2(linesAt(width - 2) > lines || width < 2, "it could be narrower");
+    }
+}
+
+void TestMessages::enterIsNo_data()
+{
+    QTest::addColumn<int>("row");
+    for (std::size_t row = 0; row < questions.size(); ++row) {
+        QTest::newRow(questions.at(row).name) << int(row);
+    }
+}
+
+void TestMessages::enterIsNo()
+{
+    QFETCH(int, row);
+    BoxWatcher watcher;
+    watcher.look = [](QMessageBox &box) {
+        QCOMPARE(box.defaultButton(), qobject_cast<QPushButton *>(box.button(QMessageBox::No)));
+        QTRY_COMPARE(box.focusWidget(), box.button(QMessageBox::No));
+        QTest::keyClick(&box, Qt::Key_Return);
+    };
+    QVERIFY(!ask(world->window.get(), questions.at(std::size_t(row)).message));
+    QCOMPARE(watcher.seen.size(), 1);
+}
+
+void TestMessages::enterClosesANotice()
+{
+    BoxWatcher watcher;
+    watcher.look = [](QMessageBox &box) {
+        QTest::keyClick(&box, Qt::Key_Return);
+    };
+    tell(world->window.get(), {"Title", "Text"});
+    QCOMPARE(watcher.seen.size(), 1);
+}
+
+void TestMessages::iconsAreOurs_data()
+{
+    QTest::addColumn<bool>("question");
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<int>("fontSize");
+    for (const int size : {12, 22, 36}) {
+        QTest::addRow("question %d", size)
+            << true << QStringLiteral(":/darkstyle/icon_question.png") << size;
+        QTest::addRow("notice %d", size)
+            << false << QStringLiteral(":/darkstyle/icon_information.png") << size;
+    }
+}
+
+void TestMessages::iconsAreOurs()
+{
+    QFETCH(bool, question);
+    QFETCH(QString, file);
+    QFETCH(int, fontSize);
+    QFont font = QApplication::font();
+    font.setPixelSize(fontSize);
+    QApplication::setFont(font);
+    BoxWatcher watcher(question ? QMessageBox::No : QMessageBox::Ok);
+    QImage shown;
+    watcher.look = [&](QMessageBox &box) {
+        shown = widget<QLabel>(box, "qt_msgboxex_icon_label")->pixmap(Qt::ReturnByValue).toImage();
+    };
+    if (question) {
+        ask(world->window.get(), Messages::updateNow);
+    } else {
+        tell(world->window.get(), Messages::updateNow);
+    }
+    QVERIFY(!shown.isNull());
+    QVERIFY2(qAbs(shown.width() - fontSize * 27 / 10) <= 1,
+             qPrintable(QString::number(shown.width())));
+    const QImage drawing(file);
+    QVERIFY(drawing.width() >= shown.width() * 9 / 10);
+    const QImage ours = drawing.scaled(shown.size(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    qint64 difference = 0;
+    for (int y = 0; y < shown.height(); ++y) {
+        for (int x = 0; x < shown.width(); ++x) {
+            difference +=
+                qAbs(shown.pixelColor(x, y).lightness() - ours.pixelColor(x, y).lightness());
+        }
+    }
+    QVERIFY2(difference / (shown.width() * shown.height()) < 8,
+             qPrintable(QString::number(difference)));
+}
+
+void TestMessages::noLineHasOneWord_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<int>("fontSize");
+    for (std::size_t row = 0; row < questions.size(); ++row) {
+        // Those of all displays.
+        for (const int size : {12, 14, 17, 19, 20, 22, 24, 26, 34, 36}) {
+            QTest::addRow("%s %d", questions.at(row).name, size) << int(row) << size;
+        }
+    }
+}
+
+void TestMessages::noLineHasOneWord()
+{
+    QFETCH(int, row);
+    QFETCH(int, fontSize);
+    QFont font = QApplication::font();
+    font.setPixelSize(fontSize);
+    QApplication::setFont(font);
+    const QString text = QString::fromLatin1(questions.at(std::size_t(row)).message.text);
+    BoxWatcher watcher(QMessageBox::No);
+    watcher.look = [&](QMessageBox &box) {
+        const QLabel &label = textLabel(box);
+        QCOMPARE(box.text(), text);
+        QVERIFY(label.height() >= label.heightForWidth(label.width()));
+        QVERIFY(box.rect().contains(QRect(label.mapTo(&box, QPoint()), label.size())));
+        for (const QString &paragraph : text.split(QLatin1Char('\n'))) {
+            const QStringList lines = linesOf(paragraph, label.font(), label.width());
+            QVERIFY2(lines.size() == 1 || lines.last().contains(QLatin1Char(' ')),
+                     qPrintable(lines.join(QLatin1String(" | "))));
+        }
+    };
+    ask(world->window.get(), questions.at(std::size_t(row)).message);
+    QCOMPARE(watcher.seen.size(), 1);
+}
+
+QTEST_MAIN(TestMessages)
+#include "tst_messages.moc"
