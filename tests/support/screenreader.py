@@ -155,9 +155,9 @@ class Announcements:
 
 class Program:
     """A running Lumikey in a home of its own; settings is what an earlier run has left, None before
-    the first one."""
+    the first one; folder is where it looks for its branding, beside the executable by default."""
 
-    def __init__(self, executable, settings="", dpi=96):
+    def __init__(self, executable, settings="", dpi=96, folder=None):
         self._home = tempfile.TemporaryDirectory()
         self.home = pathlib.Path(self._home.name)
         self.settings_file = self.home / "Documents/Corvane/Lumikey/lumikey.ini"
@@ -167,7 +167,7 @@ class Program:
         executable = pathlib.Path(executable).resolve()
         environment = dict(os.environ, HOME=str(self.home), QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
                            QT_FONT_DPI=str(dpi))
-        self.process = subprocess.Popen([executable], cwd=executable.parent, env=environment,
+        self.process = subprocess.Popen([executable], cwd=folder or executable.parent, env=environment,
                                         stdout=subprocess.DEVNULL)
         self._window = None
 
