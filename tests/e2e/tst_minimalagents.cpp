@@ -77,6 +77,8 @@ private slots:
     void pageHoldsTheSources();
     void dumpOnThePage();
     void effectsOnThePage();
+    void outputOnThePage_data();
+    void outputOnThePage();
     void changes_data();
     void changes();
 
@@ -156,6 +158,40 @@ void TestMinimalAgents::effectsOnThePage()
                                               effect.word, effect.word);
         QVERIFY2(text.contains(row), qPrintable(row));
     }
+}
+
+void TestMinimalAgents::outputOnThePage_data()
+{
+    changes_data();
+}
+
+/// What an agent prints that was there first, with the page's settings.
+void TestMinimalAgents::outputOnThePage()
+{
+    QFETCH(QStringList, command);
+    if (QStandardPaths::findExecutable(command.first()).isEmpty()) {
+        QSKIP(qPrintable(command.first() + QStringLiteral(" is not on this system")));
+    }
+    const QByteArray settings = DocumentPages::block(page, QStringLiteral("ini")).toUtf8();
+    const QStringList onThePage = DocumentPages::block(page, QStringLiteral("output"))
+                                      .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    QVERIFY(onThePage.size() >= 2);
+    twin.reset();
+    program = std::make_unique<ProgramProcess>();
+    writeFile(ProgramProcess::settingsFile(), settings);
+    MinimalAgent agent(command);
+    QVERIFY(agent.process.waitForStarted());
+    startShown();
+    twin = std::make_unique<TestWindow>();
+    twin->writeSettings(settings.mid(int(qstrlen("[settings]\n"))));
+    twin->start();
+    QStringList printed = agent.take(onThePage.at(onThePage.size() - 2));
+    clickOn("backlight_off");
+    printed += agent.take(onThePage.last());
+    // One that finds Lumikey only when its settings are applied has not seen it without them.
+    QStringList late = onThePage;
+    late.erase(late.begin() + 1, late.begin() + 3);
+    QVERIFY2(printed == onThePage || printed == late, qPrintable(printed.join(QLatin1Char('\n'))));
 }
 
 void TestMinimalAgents::changes_data()
