@@ -1,6 +1,6 @@
 #include "colorpicker/svselector.h"
 
-#include "colorpicker/pickerpalette.h"
+#include "colorpicker/ringoverflow.h"
 #include "colorpicker/svpicture.h"
 
 #include <QKeyEvent>
@@ -119,6 +119,14 @@ void SVSelector::recompute()
     emit valueChanged(currentColor);
 }
 
+void SVSelector::showEvent(QShowEvent *event)
+{
+    ColorWidget::showEvent(event);
+    if (!ringOverflow && parentWidget()) {
+        ringOverflow = new RingOverflow(*this);
+    }
+}
+
 void SVSelector::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
@@ -129,9 +137,10 @@ void SVSelector::paintEvent(QPaintEvent *)
     }
     painter.drawImage(pixmapOrigin, cacheImage);
 
-    painter.setPen(QPen(PickerPalette::outline, ringWidth));
-    painter.setBrush(PickerPalette::marker);
-    painter.drawEllipse(marker, ringRadius, ringRadius);
+    RingOverflow::drawRing(painter, marker);
+    if (ringOverflow) {
+        ringOverflow->setMarker(marker);
+    }
 
     drawFrame(painter, QRect(pixmapOrigin, QSize(squareSize, squareSize)), frameWidth, cornerRadius,
               shownFrameColor());

@@ -2,6 +2,10 @@
 
 #include "colorpicker/colorwidget.h"
 
+#include <QPointer>
+
+class RingOverflow;
+
 /// Square of one hue: saturation grows to the right, value grows upwards, a ring marks the choice.
 class SVSelector : public ColorWidget
 {
@@ -30,6 +34,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void showEvent(QShowEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
@@ -37,4 +42,6 @@ private:
     void moveMarker(const QPoint &pixels);
     void placeMarker();
     void recompute();
+
+    QPointer<RingOverflow> ringOverflow; ///< an ancestor's child; none while this has no parent
 };

@@ -3,11 +3,13 @@
 #include "app/settingskeys.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QEvent>
 #include <QFile>
 #include <QFont>
 #include <QPalette>
 #include <QStyleFactory>
+#include <QStyledItemDelegate>
 #include <QTabBar>
 
 #include <array>
@@ -117,6 +119,25 @@ void DarkStyle::polish(QApplication *app)
         app->setStyleSheet(QString::fromLatin1(sheet.readAll()));
     }
     app->installEventFilter(this);
+}
+
+void DarkStyle::polish(QWidget *widget)
+{
+    QProxyStyle::polish(widget);
+    // A combo box's own delegate does not ask the sheet for the height of its rows.
+    auto *const box = qobject_cast<QComboBox *>(widget);
+    if (box && !qobject_cast<QStyledItemDelegate *>(box->itemDelegate())) {
+        box->setItemDelegate(new QStyledItemDelegate(box));
+    }
+}
+
+int DarkStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
+                           const QWidget *widget) const
+{
+    if (metric == PM_MessageBoxIconSize && widget) {
+        return widget->fontInfo().pixelSize() * 27 / 10; // of two lines and a half
+    }
+    return QProxyStyle::pixelMetric(metric, option, widget);
 }
 
 void DarkStyle::drawItemText(QPainter *painter, const QRect &rect, int flags,

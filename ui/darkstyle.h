@@ -31,7 +31,14 @@ public:
     /// without the sheet's resource no sheet is set.
     void polish(QApplication *app) override;
 
+    /// Lets the sheet say how high the rows of lists are.
+    void polish(QWidget *widget) override;
+
     using QProxyStyle::polish;
+
+    /// As the base style's, but the icon of a message box grows with its font.
+    int pixelMetric(PixelMetric metric, const QStyleOption *option = nullptr,
+                    const QWidget *widget = nullptr) const override;
 
     /// Draws as the base style does, but no disabled text brighter than the sheet's grey for it,
     /// whatever colour a widget has of its own.

@@ -58,6 +58,7 @@ MainWindow::MainWindow(AppSettings appSettings, Platform &system, PrimaryRole &r
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     ui->Title->setText(settings.read(BrandingKeys::appName));
 
+    alignColumns(); // before anything can show the window
     systemtraystart();
     LoadSettings();
     SetAppVersion();

@@ -197,6 +197,9 @@ private:
     void showNoColour();
     /// Hands a field's text to one of the processor's two readers of texts.
     void takeText(QLineEdit &field, QColor (ColorProcessor::*set)(const QString &));
+    /// Lays out what depends on the font alone: columns that begin on one line, the picker's that
+    /// end on one. Once, and before the sizes are adapted.
+    void alignColumns();
     void enlargeForBand(const DpiBand &band);
     void updateIdleTime();
 

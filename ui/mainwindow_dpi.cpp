@@ -2,6 +2,7 @@
 
 #include "ui_mainwindow.h"
 
+#include "ui/colourhub.h"
 #include "ui/dpibands.h"
 #include "ui/windowplace.h"
 
@@ -51,6 +52,31 @@ void fixSize(QWidget &button, int edge)
 
 } // namespace
 
+void MainWindow::alignColumns()
+{
+    // As wide as what begins on the left needs it in this font, on every page.
+    int first = ui->label->minimumWidth();
+    for (const QWidget *const widget : std::initializer_list<const QWidget *>{
+             ui->label, ui->backlight_on, ui->backlight_off, ui->Check_StartwithWindows,
+             ui->StartHidden, ui->UsePerKeyApp, ui->Label_SoftwareVersion,
+             ui->Button_CheckforUpdate}) {
+        first = std::max(first, widget->sizeHint().width());
+    }
+    ui->verticalLayout_2->addStrut(first);
+    ui->gridLayout_7->setColumnMinimumWidth(0, first);
+    ui->Label_SoftwareVersion->setMinimumWidth(first);
+    ui->horizontalLayout_4->insertSpacing(1, first - ui->Button_CheckforUpdate->sizeHint().width());
+
+    // The column under the square ends with the strip beside it.
+    ui->horizontalLayout->setAlignment(ui->verticalLayout_4, Qt::AlignTop);
+    const int underSquare = ui->hSelector->minimumHeight() - ui->svSelector->minimumHeight()
+                            - ui->label_5->sizeHint().height();
+    const int gaps = std::min(2 * ui->verticalLayout_4->spacing(),
+                              underSquare - ui->colorSample->minimumHeight());
+    ui->verticalLayout_4->setSpacing(std::max(gaps / 2, 0));
+    ui->colorSample->setFixedHeight(underSquare - 2 * ui->verticalLayout_4->spacing());
+}
+
 void MainWindow::DPIfixes()
 {
     const QRect before = geometry();
@@ -96,6 +122,11 @@ void MainWindow::enlargeForBand(const DpiBand &band)
         setMinimums({ui->colorpick1, ui->colorpick2, ui->colorpick3, ui->colorpick4, ui->colorpick5,
                      ui->colorpick5_3},
                     {band.colourButton, band.colourButton});
+        const int hub = hubEdge(band.colourButton);
+        for (QPushButton *const wheel :
+             {ui->colorpick1, ui->colorpick2, ui->colorpick3, ui->colorpick4, ui->colorpick5}) {
+            wheel->setIconSize({hub, hub});
+        }
     }
     ui->frame_2->setMinimumHeight(band.barHeight);
     ui->frame_2->setMaximumHeight(band.barHeight);

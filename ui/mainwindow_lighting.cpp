@@ -2,6 +2,7 @@
 
 #include "lighting/effects.h"
 #include "lighting/serviceserver.h"
+#include "ui/colourhub.h"
 #include "ui/colourtargets.h"
 #include "ui/darkstyle.h"
 #include "ui/zonepages.h"
@@ -49,6 +50,7 @@ void MainWindow::setColour(ColourTarget target, const QString &colour)
         setZoneWord(Zone::Stripe, colour);
         // Unlike those of the keyboard, its picture shows what the word holds.
         showPreview(rowOf(target), tintColour(wordColour(lighting.stripeWord.toUInt()), tintAlpha));
+        showInHub(*(*ui.*rowOf(target).opener), colour);
         break;
     }
 }
@@ -68,11 +70,13 @@ void MainWindow::tintPreview(const ColourTargetRow &row, const QString &colour)
 {
     showPreview(row,
                 tintColour(scaledComponents(colour, ui->horizontalSlider->value()), tintAlpha));
+    showInHub(*(*ui.*row.opener), colour);
 }
 
 void MainWindow::showUncoloured(const ColourTargetRow &row)
 {
     showPreview(row, QColor(0, 0, 0, 0));
+    showInHub(*(*ui.*row.opener), QString());
 }
 
 void MainWindow::showPreview(const ColourTargetRow &row, const QColor &tint)

@@ -7,6 +7,7 @@ RIGHTS are those it runs with, "user" or "administrator"; they decide about some
 import contextlib
 import http.server
 import pathlib
+import re
 import shutil
 import subprocess
 import sys
@@ -16,7 +17,8 @@ import time
 import typing
 
 sys.dont_write_bytecode = True
-sys.path.insert(0, str(pathlib.Path(__file__).parents[2] / "tests/support"))
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(ROOT / "tests/support"))
 from screenreader import (COMBO_BOX, LABEL, PAGE_TAB, Program, accessibility_bus,  # noqa: E402
                           wait_for)
 
@@ -27,7 +29,8 @@ SINGLE = ON + "Zone4Color=0 120 255\nsinglecolorselectedlast=true\n"
 # Inside the square, so that all of its marker is seen.
 PICKED = ZONES.replace("Zone1Color=255 85 0", "Zone1Color=200 90 40")
 STRIPE = ZONES + "P751LEDStripe=true\n"
-INSTALLED, NEWER = "1.0.4", "1.0.5"
+INSTALLED = re.search(r"project\(Lumikey VERSION (\S+)", (ROOT / "CMakeLists.txt").read_text())[1]
+NEWER = INSTALLED + ".1"
 SETTLED_AFTER_SECONDS = 1.5  # settings are applied a second after the start
 PAINTED_AFTER_SECONDS = 0.5
 OUT_OF_THE_WAY = ("0", "0")

@@ -1,4 +1,5 @@
 #include "contrast.h"
+#include "ui/colourhub.h"
 #include "ui/darkstyle.h"
 
 #include <QDir>
@@ -8,6 +9,7 @@
 #include <QPixmap>
 #include <QtTest>
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 
@@ -42,6 +44,10 @@ private slots:
     void pictureSizes();
     void tintShows_data();
     void tintShows();
+    void keysAreDark_data();
+    void keysAreDark();
+    void wheelsAreHollow_data();
+    void wheelsAreHollow();
     void zonePicturesJoin();
     void brandedHighlightCarriesWhiteText();
 };
@@ -115,6 +121,52 @@ void TestArtwork::tintShows()
         (wanted.at(i) ? up : others) += wanted.at(i) ? change : change / 2;
     }
     QVERIFY2(up - others > 20, qPrintable(QString::number(up - others)));
+}
+
+void TestArtwork::keysAreDark_data()
+{
+    tintShows_data();
+}
+
+/// On light keys a tint is a breath: it adds as much, but to much more.
+void TestArtwork::keysAreDark()
+{
+    QFETCH(QString, name);
+    QFETCH(QColor, colour);
+    const QImage plain(picture(qPrintable(name)));
+    constexpr double tintOpacity = 30 / 255.0;
+    constexpr std::array<int (*)(QRgb), 3> channels{qRed, qGreen, qBlue};
+    const std::array wanted{colour.red(), colour.green(), colour.blue()};
+    double strongest = 0;
+    double weakest = 255;
+    for (std::size_t i = 0; i < channels.size(); ++i) {
+        const double mean = meanChannel(plain, channels.at(i));
+        QVERIFY2(mean < 65, "the page behind is lighter");
+        const double shown = mean * (1 - tintOpacity) + wanted.at(i) * tintOpacity;
+        strongest = std::max(strongest, shown);
+        weakest = std::min(weakest, shown);
+    }
+    const double saturation = (strongest - weakest) / strongest;
+    QVERIFY2(saturation > 0.4, qPrintable(QString::number(saturation)));
+}
+
+void TestArtwork::wheelsAreHollow_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::newRow("enabled") << picture("colorpick.png");
+    QTest::newRow("disabled") << QStringLiteral(":/darkstyle/icon_colorpick_disabled.png");
+}
+
+void TestArtwork::wheelsAreHollow()
+{
+    QFETCH(QString, file);
+    const DarkStyle style; // brings the compiled-in pictures along
+    const QImage wheel(file);
+    const int middle = wheel.width() / 2;
+    const int hub = hubEdge(wheel.width()) / 2;
+    QCOMPARE(wheel.pixelColor(middle, middle).alpha(), 0);
+    QCOMPARE(wheel.pixelColor(middle + hub - 2, middle).alpha(), 0);
+    QCOMPARE(wheel.pixelColor(middle + hub + 2, middle).alpha(), 255);
 }
 
 void TestArtwork::zonePicturesJoin()

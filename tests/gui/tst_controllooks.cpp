@@ -10,6 +10,7 @@
 #include <QComboBox>
 #include <QHash>
 #include <QLineEdit>
+#include <QPainter>
 #include <QRadioButton>
 #include <QStatusBar>
 #include <QStyleOptionButton>
@@ -111,6 +112,12 @@ private slots:
     void everyFocusedControlIsKnown();
     void focusIsSeen_data();
     void focusIsSeen();
+    void focusIsMarkedOnce_data();
+    void focusIsMarkedOnce();
+    void wheelAnswersThePointer_data();
+    void wheelAnswersThePointer();
+    void applyIsThePrimaryButton();
+    void uninstallIsAsWideAsItNeeds();
     void currentEntryIsSeen_data();
     void currentEntryIsSeen();
 
@@ -286,6 +293,105 @@ void TestControlLooks::focusIsSeen()
     QCOMPARE(shown(control), resting);
 }
 
+void TestControlLooks::focusIsMarkedOnce_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    for (const char *name :
+         {"backlight_on", "backlight_off", "CheckBox_AutoDim", "Check_StartwithWindows",
+          "Check_CloseHides", "StartHidden", "touch_mouse_wake", "UsePerKeyApp", "StartHidden_2"}) {
+        QTest::newRow(name) << QByteArray(name);
+    }
+}
+
+/// By a frame around the whole, within which nothing changes; and the frame keeps to the text.
+void TestControlLooks::focusIsMarkedOnce()
+{
+    QFETCH(QByteArray, name);
+    auto &control = *get<QAbstractButton>(name.constData());
+    reveal(control);
+    get<QWidget>("closeButton")->setFocus(Qt::TabFocusReason);
+    const QRect within = control.rect().adjusted(3, 3, -3, -3);
+    const QImage resting = shown(control).copy(within);
+    control.setFocus(Qt::TabFocusReason);
+    QVERIFY(control.hasFocus());
+    QCOMPARE(shown(control).copy(within), resting);
+    QVERIFY(control.width() <= control.sizeHint().width());
+}
+
+void TestControlLooks::wheelAnswersThePointer_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    for (const char *name :
+         {"colorpick1", "colorpick2", "colorpick3", "colorpick4", "colorpick5", "colorpick5_3"}) {
+        QTest::newRow(name) << QByteArray(name);
+    }
+}
+
+void TestControlLooks::wheelAnswersThePointer()
+{
+    QFETCH(QByteArray, name);
+    auto &wheel = *get<QAbstractButton>(name.constData());
+    reveal(wheel);
+    get<QWidget>("closeButton")->setFocus(Qt::TabFocusReason);
+    // As the style draws it; a pointer on the way would make it a matter of time.
+    const auto drawnAs = [&wheel](QStyle::State state) {
+        QStyleOptionButton option;
+        option.initFrom(&wheel);
+        option.state &= ~(QStyle::State_MouseOver | QStyle::State_HasFocus);
+        option.state |= state;
+        option.icon = wheel.icon();
+        option.iconSize = wheel.iconSize();
+        QImage image(wheel.size(), QImage::Format_RGB32);
+        image.fill(QColor(66, 66, 66)); // the page's
+        QPainter painter(&image);
+        wheel.style()->drawControl(QStyle::CE_PushButton, &option, &painter, &wheel);
+        return image;
+    };
+    const auto changed = [](const QImage &one, const QImage &other) {
+        int count = 0;
+        for (int y = 0; y < one.height(); ++y) {
+            for (int x = 0; x < one.width(); ++x) {
+                const int step =
+                    one.pixelColor(x, y).lightness() - other.pixelColor(x, y).lightness();
+                count += qAbs(step) >= 15 ? 1 : 0;
+            }
+        }
+        return count;
+    };
+    const QImage resting = drawnAs(QStyle::State_Raised);
+    const QImage hovered = drawnAs(QStyle::State_Raised | QStyle::State_MouseOver);
+    const QImage pressed = drawnAs(QStyle::State_Sunken | QStyle::State_MouseOver);
+    QVERIFY2(changed(resting, hovered) > 200,
+             qPrintable(QString::number(changed(resting, hovered))));
+    QVERIFY(changed(hovered, pressed) > 200);
+    QVERIFY(changed(resting, pressed) > 200);
+}
+
+void TestControlLooks::applyIsThePrimaryButton()
+{
+    auto &apply = *get<QAbstractButton>("pushButton");
+    auto &cancel = *get<QAbstractButton>("pushButton_2");
+    reveal(apply);
+    const QColor highlight = QApplication::palette().color(QPalette::Highlight);
+    const auto border = [](const QWidget &button) {
+        return shown(button).pixelColor(button.width() / 2, 0);
+    };
+    get<QWidget>("closeButton")->setFocus(Qt::TabFocusReason);
+    QCOMPARE(border(apply), highlight);
+    QVERIFY(apply.font().bold());
+    QVERIFY(border(cancel) != highlight);
+    QVERIFY(!cancel.font().bold());
+    apply.setFocus(Qt::TabFocusReason);
+    QCOMPARE(border(apply), QColor(Qt::white)); // the focus is marked as everywhere
+}
+
+void TestControlLooks::uninstallIsAsWideAsItNeeds()
+{
+    const auto &button = *get<QAbstractButton>("pushButton_3");
+    QCOMPARE(button.width(), button.sizeHint().width());
+    QVERIFY(button.width() < world->window->width() / 4);
+}
+
 void TestControlLooks::currentEntryIsSeen_data()
 {
     QTest::addColumn<QByteArray>("name");
@@ -302,6 +408,12 @@ void TestControlLooks::currentEntryIsSeen()
     box.showPopup();
     QAbstractItemView &list = *box.view();
     QTRY_VERIFY(list.isVisible());
+    for (int row = 0; row < box.count(); ++row) {
+        QVERIFY(list.visualRect(list.model()->index(row, 0)).height() >= 24);
+    }
+    QVERIFY2(list.visualRect(list.model()->index(box.count() - 1, 0)).bottom()
+                 <= list.viewport()->rect().bottom(),
+             "all rows are seen at once");
     list.setCurrentIndex(list.model()->index(1, 0));
     const auto entry = [&list](int row) {
         return list.viewport()->grab(list.visualRect(list.model()->index(row, 0))).toImage();

@@ -1,15 +1,21 @@
 #include "app/startup.h"
 #include "clipping.h"
 #include "tests/support/testwindow.h"
+#include "ui/colourhub.h"
 #include "ui/darkstyle.h"
 #include "ui/dpibands.h"
 #include "updateworld.h"
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QDesktopWidget>
+#include <QLabel>
 #include <QLayout>
+#include <QRadioButton>
 #include <QScreen>
+#include <QStyleOptionButton>
 #include <QTabWidget>
 #include <QTest>
 
@@ -91,7 +97,9 @@ private slots:
     void spacers();
     void spacersGrow();
     void pagesAlign();
-    void pickerInTheMiddle();
+    void pickerAtTheTop();
+    void columnsBeginOnCommonLines();
+    void effectNoteInTheMiddle();
     void showsEverything_data();
     void showsEverything();
     void firstWindowIsOnTheScreen();
@@ -175,6 +183,11 @@ void TestDpiFixes::sizes()
          {"colorpick1", "colorpick2", "colorpick3", "colorpick4", "colorpick5", "colorpick5_3"}) {
         compareMinimum(*world, name, {want.colourButton, want.colourButton});
         QCOMPARE(world->get<QWidget>(name)->maximumSize(), QSize(40, 40));
+    }
+    const QSize hub(hubEdge(want.colourButton), hubEdge(want.colourButton));
+    for (const char *name :
+         {"colorpick1", "colorpick2", "colorpick3", "colorpick4", "colorpick5"}) {
+        QCOMPARE(world->get<QAbstractButton>(name)->iconSize(), hub);
     }
     compareMinimum(*world, "frame_2", {0, want.bar});
     QCOMPARE(world->get<QWidget>("frame_2")->maximumHeight(), want.bar);
@@ -311,7 +324,7 @@ void TestDpiFixes::pagesAlign()
     }
 }
 
-void TestDpiFixes::pickerInTheMiddle()
+void TestDpiFixes::pickerAtTheTop()
 {
     if (expected().window == QSize(630, 630)) {
         QSKIP("In the gap the form's sizes are too small for the font, on purpose.");
@@ -322,12 +335,102 @@ void TestDpiFixes::pickerInTheMiddle()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     const QWidget *const panel = world->get<QWidget>("colorpickframe");
     const QWidget *const prompt = world->get<QWidget>("label_8");
-    const int above = prompt->y();
-    const int below = panel->height() - 1 - world->get<QWidget>("widget")->geometry().bottom();
-    // The height is shared between the prompt's row and one that is empty, so it is even but for
-    // the prompt.
-    QVERIFY2(qAbs(above - below) <= prompt->height(),
-             qPrintable(QStringLiteral("%1 above, %2 below").arg(above).arg(below)));
+    const QWidget *const content = world->get<QWidget>("widget");
+    QVERIFY2(prompt->y() <= 6, qPrintable(QString::number(prompt->y())));
+    QCOMPARE(prompt->height(), prompt->sizeHint().height());
+    QVERIFY(content->y() - prompt->geometry().bottom() <= 8);
+    const auto bottom = [panel](const QWidget *widget) {
+        return widget->mapTo(panel, widget->rect().bottomLeft()).y();
+    };
+    const auto top = [panel](const QWidget *widget) {
+        return widget->mapTo(panel, QPoint()).y();
+    };
+    const QWidget *const strip = world->get<QWidget>("hSelector");
+    QCOMPARE(top(world->get<QWidget>("svSelector")), top(strip));
+    QCOMPARE(top(world->get<QWidget>("leRGB")), top(strip));
+    QCOMPARE(bottom(world->get<QWidget>("colorSample")), bottom(strip));
+    // The buttons end there, too, unless they need more.
+    const int last = bottom(world->get<QWidget>("pushButton"));
+    const bool crowded = expected().secondControls > 38;
+    QVERIFY2(last == bottom(strip) || (crowded && last > bottom(strip)),
+             qPrintable(QStringLiteral("%1, strip %2").arg(last).arg(bottom(strip))));
+}
+
+void TestDpiFixes::columnsBeginOnCommonLines()
+{
+    if (expected().window == QSize(630, 630)) {
+        QSKIP("In the gap the form's sizes are too small for the font, on purpose.");
+    }
+    MainWindow &window = *world->window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const auto lineOf = [&](const char *name) {
+        QWidget *const item = world->get<QWidget>(name);
+        int inside = 0;
+        QStyleOptionButton option;
+        option.initFrom(item);
+        if (qobject_cast<QCheckBox *>(item)) {
+            inside = item->style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, item).x();
+        } else if (qobject_cast<QRadioButton *>(item)) {
+            inside =
+                item->style()->subElementRect(QStyle::SE_RadioButtonIndicator, &option, item).x();
+        } else if (const auto *const label = qobject_cast<QLabel *>(item)) {
+            inside = std::max(label->indent(), 0);
+        } else if (qstrcmp(name, "pushButton_3") == 0) {
+            inside = 3; // its border's margin
+        }
+        return item->mapTo(&window, QPoint(inside, 0)).x();
+    };
+    auto *const pages = world->get<QTabWidget>("tabWidget");
+    const int left = lineOf("label_4");
+    const int second = lineOf("label_2");
+    for (const char *name : {"label", "backlight_on", "backlight_off", "Check_StartwithWindows",
+                             "StartHidden", "UsePerKeyApp"}) {
+        QVERIFY2(lineOf(name) == left, name);
+    }
+    for (const char *name : {"horizontalSlider", "Check_CloseHides", "touch_mouse_wake",
+                             "StartHidden_2", "pushButton_3"}) {
+        QVERIFY2(lineOf(name) == second, name);
+    }
+    pages->setCurrentIndex(1);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    for (const char *name : {"label_3", "Label_SoftwareVersion", "Label_SoftwareVersion_desc",
+                             "Button_CheckforUpdate"}) {
+        QVERIFY2(lineOf(name) == left, name);
+    }
+    for (const char *name : {"Label_SoftwareServerVersion", "Button_Update"}) {
+        QVERIFY2(lineOf(name) == second, name);
+    }
+}
+
+void TestDpiFixes::effectNoteInTheMiddle()
+{
+    if (expected().window == QSize(630, 630)) {
+        QSKIP("In the gap the form's sizes are too small for the font, on purpose.");
+    }
+    world->window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(world->window.get()));
+    auto *const pages = world->get<QTabWidget>("tabWidget_2");
+    world->get<QComboBox>("Combo_Effect")->setCurrentIndex(3);
+    for (const auto &[index, name] : {std::pair{0, "label_14"}, std::pair{1, "label_16"}}) {
+        pages->setCurrentIndex(index);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        const QImage page = pages->currentWidget()->grab().toImage();
+        QRect text;
+        const QRgb ground = page.pixel(1, 1);
+        for (int y = 0; y < page.height(); ++y) {
+            for (int x = 0; x < page.width(); ++x) {
+                if (qGray(page.pixel(x, y)) > qGray(ground) + 60) {
+                    text |= QRect(x, y, 1, 1);
+                }
+            }
+        }
+        const QPoint beside = text.center() - page.rect().center();
+        QVERIFY2(qAbs(beside.x()) <= 3, name);
+        // Half of what hangs below the line may be missing.
+        QVERIFY2(qAbs(beside.y()) <= std::max(3, text.height() / 5),
+                 qPrintable(QStringLiteral("%1: %2").arg(QLatin1String(name)).arg(beside.y())));
+    }
 }
 
 void TestDpiFixes::showsEverything_data()

@@ -195,10 +195,8 @@ void TestMessages::iconsAreOurs()
         tell(world->window.get(), Messages::updateNow);
     }
     QVERIFY(!shown.isNull());
-    QVERIFY2(qAbs(shown.width() - fontSize * 27 / 10) <= 1,
-             qPrintable(QString::number(shown.width())));
     const QImage drawing(file);
-    QVERIFY(drawing.width() >= shown.width() * 9 / 10);
+    QCOMPARE(shown.width(), std::min(fontSize * 27 / 10, drawing.width())); // never blown up
     const QImage ours = drawing.scaled(shown.size(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
     qint64 difference = 0;
     for (int y = 0; y < shown.height(); ++y) {
@@ -236,7 +234,8 @@ void TestMessages::noLineHasOneWord()
         const QLabel &label = textLabel(box);
         QCOMPARE(box.text(), text);
         QVERIFY(label.height() >= label.heightForWidth(label.width()));
-        QVERIFY(box.rect().contains(QRect(label.mapTo(&box, QPoint()), label.size())));
+        // The window manager may still be at the size that the box had before.
+        QTRY_VERIFY(box.rect().contains(QRect(label.mapTo(&box, QPoint()), label.size())));
         for (const QString &paragraph : text.split(QLatin1Char('\n'))) {
             const QStringList lines = linesOf(paragraph, label.font(), label.width());
             QVERIFY2(lines.size() == 1 || lines.last().contains(QLatin1Char(' ')),

@@ -51,6 +51,8 @@ constexpr std::array pictures{
     "icon_checkbox_unchecked_pressed.png",
     "icon_close.png",
     "icon_colorpick_disabled.png",
+    "icon_information.png",
+    "icon_question.png",
     "icon_restore.png",
     "icon_undock.png",
     "icon_vline.png",

@@ -23,6 +23,9 @@ private slots:
     void squareHueChange();
     void firstHuePlacesTheRing();
     void squareDrawing();
+    void ringIsWholeAtTheEdges_data();
+    void ringIsWholeAtTheEdges();
+    void ringLetsThePointerThrough();
     void pictureIsRebuiltOnHueChangeOnly();
 };
 
@@ -211,6 +214,59 @@ void TestSVSelector::squareDrawing()
     QCOMPARE(image.pixel(102, 52), 0xffddddddU);
     QCOMPARE(image.pixel(110, 57), hsv(0, 108, 200).rgb());
     QCOMPARE(image.pixel(259, 259), background);
+}
+
+void TestSVSelector::ringIsWholeAtTheEdges_data()
+{
+    QTest::addColumn<int>("saturation");
+    QTest::addColumn<int>("value");
+    QTest::addColumn<QPoint>("marker"); // in the square
+    QTest::newRow("a pure colour") << 255 << 255 << QPoint(257, 2);
+    QTest::newRow("white") << 0 << 255 << QPoint(2, 2);
+    QTest::newRow("black") << 0 << 0 << QPoint(2, 257);
+    QTest::newRow("black of a hue") << 255 << 0 << QPoint(257, 257);
+    QTest::newRow("right edge") << 255 << 100 << QPoint(257, 157);
+    QTest::newRow("inside") << 100 << 100 << QPoint(102, 157);
+}
+
+void TestSVSelector::ringIsWholeAtTheEdges()
+{
+    QFETCH(int, saturation);
+    QFETCH(int, value);
+    QFETCH(QPoint, marker);
+    QWidget panel;
+    panel.resize(300, 300);
+    // Where it stands it has no room, as in the window; the panel has.
+    QWidget column(&panel);
+    column.setGeometry(20, 20, 260, 270);
+    SVSelector square(&column);
+    square.setGeometry(0, 0, 260, 260);
+    panel.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&panel));
+    column.move(25, 22); // it follows
+    square.setSaturationValue(saturation, value);
+    panel.grab(); // which tells the overflow where the ring is
+    const QImage image = panel.grab().toImage();
+    const QPoint middle = marker + QPoint(25, 22);
+    for (const QPoint &beside : {QPoint(4, 0), QPoint(-5, 0), QPoint(0, 4), QPoint(0, -5)}) {
+        const QPoint pen = middle + beside;
+        // Within the square's widget its frame is drawn over the ring.
+        const bool framed = QRect(25, 22, 260, 260).contains(pen);
+        QVERIFY2(framed || image.pixel(pen) == 0xffddddddU,
+                 qPrintable(QStringLiteral("%1 %2").arg(pen.x()).arg(pen.y())));
+    }
+}
+
+void TestSVSelector::ringLetsThePointerThrough()
+{
+    QWidget panel;
+    panel.resize(300, 300);
+    SVSelector square(&panel);
+    square.setGeometry(20, 20, 260, 260);
+    panel.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&panel));
+    QCOMPARE(panel.childAt(150, 150), static_cast<QWidget *>(&square));
+    QCOMPARE(panel.childAt(17, 17), nullptr);
 }
 
 void TestSVSelector::pictureIsRebuiltOnHueChangeOnly()
