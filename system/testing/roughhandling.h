@@ -21,4 +21,7 @@ void shutDownWriting(qintptr socketDescriptor);
 /// everybody in.
 std::shared_ptr<void> holdAlone(const QString &path);
 
+/// Lets a mounted disk be written to, or forbids it. False where tests cannot do either.
+bool setDiskWritable(const QString &mountPoint, bool writable);
+
 } // namespace RoughHandling

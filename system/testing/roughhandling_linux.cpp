@@ -1,6 +1,7 @@
 #include "system/testing/roughhandling.h"
 
 #include <QDir>
+#include <QProcess>
 
 #include <sys/resource.h>
 #include <sys/socket.h>
@@ -40,4 +41,13 @@ void RoughHandling::shutDownWriting(qintptr socketDescriptor)
 std::shared_ptr<void> RoughHandling::holdAlone(const QString & /*path*/)
 {
     return nullptr;
+}
+
+bool RoughHandling::setDiskWritable(const QString &mountPoint, bool writable)
+{
+    return QProcess::execute(QStringLiteral("mount"),
+                             {QStringLiteral("-o"),
+                              QStringLiteral("remount,") + QLatin1String(writable ? "rw" : "ro"),
+                              mountPoint})
+           == 0;
 }

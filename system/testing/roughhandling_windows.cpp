@@ -28,3 +28,8 @@ std::shared_ptr<void> RoughHandling::holdAlone(const QString &path)
     }
     return {file, ::CloseHandle};
 }
+
+bool RoughHandling::setDiskWritable(const QString & /*mountPoint*/, bool /*writable*/)
+{
+    return false;
+}

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tests/support/testpaths.h"
+
 #include <QByteArray>
 #include <QDataStream>
 #include <QElapsedTimer>
@@ -116,7 +118,7 @@ class Agent
 public:
     explicit Agent(const QStringList &arguments)
     {
-        process.start(QStringLiteral(LUMIKEY_AGENT_PATH), arguments);
+        process.start(TestPaths::helper(QStringLiteral(LUMIKEY_AGENT_PATH)), arguments);
     }
     ~Agent()
     {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tests/support/guitest.h"
+#include "tests/support/testpaths.h"
 
 #include <QString>
 #include <QStringList>
@@ -11,7 +12,7 @@ namespace DocumentPages {
 /// Path of a file of the tree; absolute, but for a drive.
 inline QString path(const QString &file)
 {
-    return QStringLiteral(LUMIKEY_SOURCE_DIR "/") + file;
+    return TestPaths::source(QStringLiteral(LUMIKEY_SOURCE_DIR), file);
 }
 
 /// A text file of the tree, with plain line ends; empty when it is missing.

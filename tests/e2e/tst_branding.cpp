@@ -1,4 +1,5 @@
 #include "app/settingskeys.h"
+#include "system/testing/desktop.h"
 #include "tests/e2e/documentpages.h"
 #include "tests/e2e/programlines.h"
 #include "tests/support/guitest.h"
@@ -151,7 +152,7 @@ void TestBranding::start()
     twin->writeBranding(vendorsLines);
     twin->writeSettings(settings);
     twin->start();
-    ProgramWindow::input({QStringLiteral("mousemove"), QStringLiteral("0"), QStringLiteral("0")});
+    Desktop::movePointer({0, 0});
 }
 
 void TestBranding::openPage(int index) const
@@ -208,10 +209,9 @@ void TestBranding::buttons()
         QCOMPARE(seen(button.constData()), vendorsColour(name));
         const QPoint place = ProgramWindow::onScreen(*twin->window, button.constData());
         // In two steps: a jump alone may not be told to the window.
-        ProgramWindow::input({QStringLiteral("mousemove"), QString::number(place.x() + 5),
-                              QString::number(place.y()), QStringLiteral("sleep"),
-                              QStringLiteral("0.2"), QStringLiteral("mousemove"),
-                              QString::number(place.x()), QString::number(place.y())});
+        Desktop::movePointer(place + QPoint(5, 0));
+        QTest::qWait(200);
+        Desktop::movePointer(place);
         QTest::qWait(500);
         QCOMPARE(seen(button.constData()),
                  vendorsColour((QByteArray(name) + "_focus").constData()));

@@ -1,3 +1,4 @@
+#include "system/testing/desktop.h"
 #include "tests/e2e/programlines.h"
 #include "tests/support/companionprocess.h"
 #include "tests/support/programprocess.h"
@@ -154,7 +155,7 @@ void TestCompanionProgram::autoDimTakesItAtTheNextWake()
     QCOMPARE(now, Lines::off);
     QCOMPARE(ProgramProcess::stored("brightlevel"), QStringLiteral("9"));
 
-    ProgramWindow::press({QStringLiteral("a")});
+    Desktop::press({QStringLiteral("a")});
     QTRY_COMPARE_WITH_TIMEOUT(ServiceClient::readLine(), line(redAt(6)), followsWithinMs);
 }
 

@@ -1,3 +1,4 @@
+#include "system/testing/desktop.h"
 #include "tests/e2e/programlines.h"
 #include "tests/support/programprocess.h"
 #include "tests/support/programwindow.h"
@@ -55,17 +56,16 @@ QString firstLight()
     return QTest::qWaitFor(isLit) ? line : QString();
 }
 
-/// Turns the wheel over a place of the window, which is no input: button 4 is up, 5 is down.
-void turnWheel(const QPoint &place, int button)
+/// Turns the wheel over a place of the window, which is no input.
+void turnWheel(const QPoint &place, bool away)
 {
-    ProgramWindow::input({QStringLiteral("mousemove"), QString::number(place.x()),
-                          QString::number(place.y()), QStringLiteral("click"),
-                          QString::number(button)});
+    Desktop::movePointer(place);
+    Desktop::turnWheel(away);
 }
 
 void pressKey()
 {
-    ProgramWindow::press({QStringLiteral("a")});
+    Desktop::press({QStringLiteral("a")});
 }
 
 } // namespace
@@ -194,7 +194,7 @@ void TestDimming::mouseWakesWithTheBox()
     QTRY_COMPARE_WITH_TIMEOUT(ServiceClient::readLine(), Lines::off, darkAfterStartMs);
 
     // The wheel and the pointer's way are no input.
-    turnWheel(title, 5);
+    turnWheel(title, false);
     QTest::qWait(500);
     QCOMPARE(ServiceClient::readLine(), Lines::off);
 
@@ -239,11 +239,11 @@ void TestDimming::effectBoxAndSlider()
 
     // While an effect is chosen, nothing dims; without it the idle time has long been over.
     ProgramWindow::click(box);
-    turnWheel(effect, 5);
+    turnWheel(effect, false);
     QTRY_COMPARE(ServiceClient::readLine(), breathLine);
     QTest::qWait(longerThanIdleMs);
     QCOMPARE(ServiceClient::readLine(), breathLine);
-    turnWheel(effect, 4);
+    turnWheel(effect, true);
     QTRY_COMPARE_WITH_TIMEOUT(ServiceClient::readLine(), Lines::off, soonerThanIdleMs);
 
     // Unchecked while it is dark: lit again, without waking the keyboard, and to be moved again.
@@ -251,8 +251,7 @@ void TestDimming::effectBoxAndSlider()
     QTRY_COMPARE(ProgramProcess::stored("AutoDim"), QStringLiteral("false"));
     QCOMPARE(firstLight(), dimLine);
     ProgramWindow::click(slider); // takes the focus
-    ProgramWindow::press(
-        {QStringLiteral("Home"), QStringLiteral("Right"), QStringLiteral("Right")});
+    Desktop::press({QStringLiteral("Home"), QStringLiteral("Right"), QStringLiteral("Right")});
     QTRY_COMPARE(ProgramProcess::stored("brightlevel"), QStringLiteral("2"));
 
     // Two percent stay; one more does not.
@@ -260,7 +259,7 @@ void TestDimming::effectBoxAndSlider()
     QTRY_COMPARE(ProgramProcess::stored("AutoDim"), QStringLiteral("true"));
     QTest::qWait(longerThanIdleMs);
     QCOMPARE(ServiceClient::readLine(), twoPercentLine);
-    turnWheel(slider, 4);
+    turnWheel(slider, true);
     QTRY_COMPARE_WITH_TIMEOUT(ServiceClient::readLine(), Lines::off, soonerThanIdleMs);
 }
 

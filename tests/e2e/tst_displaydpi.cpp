@@ -1,3 +1,4 @@
+#include "system/testing/desktop.h"
 #include "tests/support/programprocess.h"
 #include "tests/support/programwindow.h"
 #include "tests/support/testsystem.h"
@@ -13,16 +14,8 @@ int shownTitleButton(const QRect &window)
 {
     constexpr int spacing = 6;
     constexpr QSize corner(170, 120);
-    const QByteArray part = TestSystem::runDesktopTool(
-        QStringLiteral("import"),
-        {QStringLiteral("-window"), QStringLiteral("root"), QStringLiteral("-crop"),
-         QStringLiteral("%1x%2+%3+%4")
-             .arg(corner.width())
-             .arg(corner.height())
-             .arg(window.x() + window.width() - 2 - corner.width()) // within the window's border
-             .arg(window.y() + 2),
-         QStringLiteral("png:-")});
-    const QImage pixels = QImage::fromData(part, "PNG");
+    const QImage pixels = Desktop::picture(
+        {window.topRight() + QPoint(-1 - corner.width(), 2), corner}); // within the window's border
     if (pixels.size() != corner) {
         return 0;
     }
@@ -67,6 +60,9 @@ private:
 
 void TestDisplayDpi::initTestCase()
 {
+    if (TestSystem::isPersonsOwn()) {
+        QSKIP("changes the scale of the screen");
+    }
     // What overrides the desktop.
     qunsetenv("QT_FONT_DPI");
     desktopsOwn = TestSystem::displayDpi();
@@ -74,8 +70,10 @@ void TestDisplayDpi::initTestCase()
 
 void TestDisplayDpi::cleanupTestCase()
 {
-    TestSystem::setDisplayDpi(desktopsOwn);
-    QVERIFY(TestSystem::displayDpi() == desktopsOwn);
+    if (!TestSystem::isPersonsOwn()) {
+        TestSystem::setDisplayDpi(desktopsOwn);
+        QVERIFY(TestSystem::displayDpi() == desktopsOwn);
+    }
 }
 
 void TestDisplayDpi::sizes_data()
@@ -136,8 +134,7 @@ void TestDisplayDpi::sizes()
     };
     if (!isRight()) {
         // A corner that the display does not reach, or that is not painted yet.
-        ProgramWindow::input({QStringLiteral("windowmove"), QString::number(ProgramWindow::shown()),
-                              QStringLiteral("0"), QStringLiteral("0")});
+        Desktop::move(ProgramWindow::shown(), {0, 0});
         window.moveTopLeft({0, 0});
         QVERIFY2(QTest::qWaitFor(isRight), QByteArray::number(shown).constData());
     }

@@ -1,8 +1,10 @@
 #include "system/platform.h"
-#include "tests/support/programwindow.h"
+#include "system/testing/desktop.h"
 
 #include <QTest>
 #include <QWidget>
+
+Q_DECLARE_METATYPE(Desktop::Button)
 
 /// The system's own door, under real presses: what it reports of keys and buttons.
 class TestInput : public QObject
@@ -31,8 +33,7 @@ void TestInput::initTestCase()
     window.setGeometry(100, 100, 300, 200);
     window.show();
     QVERIFY(QTest::qWaitForWindowActive(&window));
-    ProgramWindow::input(
-        {QStringLiteral("mousemove"), QStringLiteral("200"), QStringLiteral("200")});
+    Desktop::movePointer({200, 200});
 }
 
 void TestInput::init()
@@ -57,7 +58,7 @@ void TestInput::nothingPressed()
 
 void TestInput::aKeyCountsOnce()
 {
-    ProgramWindow::press({QStringLiteral("a")});
+    Desktop::press({QStringLiteral("a")});
     const KeyPresses presses = reported();
     QCOMPARE(presses.count(), std::size_t{1});
     QVERIFY((presses >> 7).any()); // no code of the mouse
@@ -66,26 +67,26 @@ void TestInput::aKeyCountsOnce()
 
 void TestInput::mouseButtons_data()
 {
-    QTest::addColumn<QString>("button");
+    QTest::addColumn<Desktop::Button>("button");
     QTest::addColumn<int>("code");
-    QTest::newRow("left") << QStringLiteral("1") << 1;
-    QTest::newRow("middle") << QStringLiteral("2") << 4;
-    QTest::newRow("right") << QStringLiteral("3") << 2;
+    QTest::newRow("left") << Desktop::Button::Left << 1;
+    QTest::newRow("middle") << Desktop::Button::Middle << 4;
+    QTest::newRow("right") << Desktop::Button::Right << 2;
 }
 
 void TestInput::mouseButtons()
 {
-    QFETCH(QString, button);
+    QFETCH(Desktop::Button, button);
     QFETCH(int, code);
-    ProgramWindow::input({QStringLiteral("click"), button});
+    Desktop::pressButton(button);
+    Desktop::releaseButton(button);
     QCOMPARE(reported(), KeyPresses().set(static_cast<std::size_t>(code)));
     QVERIFY(reported().none());
 }
 
 void TestInput::movingThePointerIsNoPress()
 {
-    ProgramWindow::input(
-        {QStringLiteral("mousemove"), QStringLiteral("210"), QStringLiteral("210")});
+    Desktop::movePointer({210, 210});
     QVERIFY(reported().none());
 }
 

@@ -1,9 +1,11 @@
 #include "app/appsettings.h"
+#include "system/testing/desktop.h"
 #include "tests/e2e/programlines.h"
 #include "tests/support/guitest.h"
 #include "tests/support/programprocess.h"
 #include "tests/support/programtwin.h"
 #include "tests/support/programwindow.h"
+#include "tests/support/testpaths.h"
 
 #include <QFileInfo>
 #include <QProcess>
@@ -53,7 +55,7 @@ void TestKills::writerKilled()
     int oldValues = 0;
     for (int kill = 0; kill < kills; ++kill) {
         QProcess writer;
-        writer.start(QStringLiteral(LUMIKEY_SETTINGS_WRITER_PATH),
+        writer.start(TestPaths::helper(QStringLiteral(LUMIKEY_SETTINGS_WRITER_PATH)),
                      {documents.path(), QString::number(last + 1)});
         // Until it has stored one: a lock that the last kill left is out of the way.
         QByteArray output;
@@ -97,10 +99,8 @@ void TestKills::programKilledInUse()
             twin.click("horizontalSlider");
         }
         // Each key is a step of the slider, and a write.
-        ProgramWindow::press(QStringList{QStringLiteral("--delay"), QStringLiteral("1")}
-                             + QVector<QString>(40, QStringLiteral("Left")).toList());
-        ProgramWindow::press(QStringList{QStringLiteral("--delay"), QStringLiteral("1")}
-                             + QVector<QString>(40, QStringLiteral("Right")).toList());
+        Desktop::press(QVector<QString>(40, QStringLiteral("Left")).toList());
+        Desktop::press(QVector<QString>(40, QStringLiteral("Right")).toList());
         QTest::qSleep(1 + random.bounded(longestWaitMs));
         program.process.kill();
         QVERIFY(program.process.waitForFinished());

@@ -1,10 +1,12 @@
 #include "examples/agent/answer.h"
+#include "system/testing/desktop.h"
 #include "tests/e2e/documentpages.h"
 #include "tests/e2e/programlines.h"
 #include "tests/support/guitest.h"
 #include "tests/support/programprocess.h"
 #include "tests/support/programwindow.h"
 #include "tests/support/serviceclient.h"
+#include "tests/support/testpaths.h"
 #include "tests/support/testwindow.h"
 #include "ui/darkstyle.h"
 
@@ -92,7 +94,7 @@ private:
     {
         clickOn("Combo_Effect");
         QTest::qWait(500); // the list opens
-        ProgramWindow::press(keys + QStringList{QStringLiteral("Return")});
+        Desktop::press(keys + QStringList{QStringLiteral("Return")});
     }
 
     std::unique_ptr<ProgramProcess> program;
@@ -199,7 +201,7 @@ void TestMinimalAgents::changes_data()
     QTest::addColumn<QStringList>("command");
     // With its drive, where there are drives: the current directory is another one later.
     QTest::newRow("C++") << QStringList{
-        QFileInfo(QStringLiteral(LUMIKEY_MINIMAL_AGENT_PATH)).absoluteFilePath()};
+        TestPaths::helper(QStringLiteral(LUMIKEY_MINIMAL_AGENT_PATH))};
     QTest::newRow("Python") << QStringList{
         QStringLiteral("python3"),
         DocumentPages::path(QStringLiteral("examples/minimal/agent.py"))};
@@ -255,8 +257,10 @@ void TestMinimalAgents::changes()
     twin->get<QAbstractButton>("colorpick1")->click();
     QTest::qWait(500);
     clickOn("leRGB");
-    ProgramWindow::press({QStringLiteral("ctrl+a")});
-    ProgramWindow::input({QStringLiteral("type"), QStringLiteral("0 128 255")});
+    Desktop::press({QStringLiteral("ctrl+a")});
+    for (const QChar letter : QStringLiteral("0 128 255")) {
+        Desktop::press({letter == QLatin1Char(' ') ? QStringLiteral("space") : QString(letter)});
+    }
     clickOn("pushButton");
     const QString blue =
         QStringLiteral("left #0080ff, centre #00ff00, right #0000ff, stripe #000000, ")
@@ -265,7 +269,7 @@ void TestMinimalAgents::changes()
 
     twin->get<QAbstractButton>("pushButton")->click();
     clickOn("horizontalSlider"); // takes the focus
-    ProgramWindow::press({QStringLiteral("Home")});
+    Desktop::press({QStringLiteral("Home")});
     QVERIFY(agent.take(off).endsWith(off));
 
     // Away and back: what is the same as before is news all the same.

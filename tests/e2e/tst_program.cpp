@@ -1,8 +1,10 @@
+#include "system/testing/desktop.h"
 #include "tests/e2e/programlines.h"
 #include "tests/support/guitest.h"
 #include "tests/support/programprocess.h"
 #include "tests/support/programwindow.h"
 #include "tests/support/serviceclient.h"
+#include "tests/support/testpaths.h"
 #include "tests/support/testwindow.h"
 #include "ui/darkstyle.h"
 
@@ -120,12 +122,12 @@ void TestProgram::keysMoveTheSlider()
     ServiceClient::readLine();
     ServiceClient::readLine();
 
-    ProgramWindow::press({QStringLiteral("Down")});     // for nobody: no control has the focus yet
+    Desktop::press({QStringLiteral("Down")});     // for nobody: no control has the focus yet
     ProgramWindow::click(onScreen("horizontalSlider")); // takes it
-    ProgramWindow::press({QStringLiteral("Home")});
+    Desktop::press({QStringLiteral("Home")});
     QTRY_COMPARE(ProgramProcess::stored("brightlevel"), QStringLiteral("0"));
     QCOMPARE(ServiceClient::readLine(), Lines::off);
-    ProgramWindow::press({QStringLiteral("End"), QStringLiteral("Left"), QStringLiteral("Left")});
+    Desktop::press({QStringLiteral("End"), QStringLiteral("Left"), QStringLiteral("Left")});
     QTRY_COMPARE(ProgramProcess::stored("brightlevel"), QStringLiteral("98"));
     // 255 at 98 percent is 249; the stripe's 1 2 3 becomes 0 1 2.
     QTRY_COMPARE(ServiceClient::readLine(),
@@ -188,7 +190,7 @@ void TestProgram::agentUnderstandsTheProgram()
     QByteArray answer;
     for (int client = 0; client < 3; ++client) {
         QProcess agent;
-        agent.start(QStringLiteral(LUMIKEY_AGENT_PATH),
+        agent.start(TestPaths::helper(QStringLiteral(LUMIKEY_AGENT_PATH)),
                     {QStringLiteral("--once"), QStringLiteral("--json")});
         QVERIFY(agent.waitForFinished());
         answer = agent.readAllStandardOutput();

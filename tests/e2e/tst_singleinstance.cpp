@@ -1,6 +1,7 @@
 #include "programlines.h"
 
 #include "app/connectionmessage.h"
+#include "system/testing/desktop.h"
 #include "tests/support/instancesocket.h"
 #include "tests/support/programprocess.h"
 #include "tests/support/programwindow.h"
@@ -26,7 +27,6 @@ constexpr int twenty = 20;
 /// The guard's promise is a fraction of a second; the rest is for a busy machine to load a process.
 constexpr int leavesWithinMs = 10'000;
 
-const QString xdotool = QStringLiteral("xdotool");
 /// The first line of the log behind the guard, before there is a window.
 constexpr const char *pastTheGuard = "Logical DPI";
 
@@ -86,26 +86,10 @@ int running(const Starts &starts)
                                           [](const auto &start) { return start->runs(); }));
 }
 
-qulonglong activeWindow()
-{
-    return TestSystem::runDesktopTool(xdotool, {QStringLiteral("getactivewindow")})
-        .trimmed()
-        .toULongLong();
-}
-
-/// The window that covers all others.
-qulonglong topWindow()
-{
-    const QByteArray stack = TestSystem::runDesktopTool(
-        QStringLiteral("xprop"),
-        {QStringLiteral("-root"), QStringLiteral("_NET_CLIENT_LIST_STACKING")});
-    return stack.mid(stack.lastIndexOf(' ')).trimmed().toULongLong(nullptr, 0);
-}
-
 /// How many windows of the program the screen shows.
 int shownWindows()
 {
-    return ProgramWindow::windows(QStringLiteral("^Lumikey$")).size();
+    return Desktop::shownWindows(QStringLiteral("^Lumikey$")).size();
 }
 
 /// Asks again for 10 s of real time; the desktop's tools take theirs.
@@ -117,8 +101,8 @@ template<class Condition> bool eventually(Condition condition)
 /// Whether the only window is shown and has the focus.
 bool inFront()
 {
-    const qulonglong window = ProgramWindow::shown();
-    return window != 0 && activeWindow() == window;
+    const quintptr window = ProgramWindow::shown();
+    return window != 0 && Desktop::activeWindow() == window;
 }
 
 void copyFolder(const QString &from, const QString &to)
@@ -243,15 +227,15 @@ void TestSingleInstance::secondStartWhenCovered()
 {
     QVERIFY(first->startAndServe());
     QVERIFY(eventually(inFront));
-    const qulonglong window = ProgramWindow::shown();
-    QVERIFY(eventually([&] { return topWindow() == window; }));
+    const quintptr window = ProgramWindow::shown();
+    QVERIFY(eventually([&] { return Desktop::topWindow() == window; }));
     const QTemporaryDir elsewhere;
     const FurtherStart cover(*first, copyProgram(elsewhere)); // opens in the same place
-    QVERIFY(eventually([&] { return shownWindows() == 2 && topWindow() != window; }));
+    QVERIFY(eventually([&] { return shownWindows() == 2 && Desktop::topWindow() != window; }));
 
     FurtherStart second(*first);
     QVERIFY(second.leaves());
-    QVERIFY(eventually([&] { return topWindow() == window; }));
+    QVERIFY(eventually([&] { return Desktop::topWindow() == window; }));
     QCOMPARE(shownWindows(), 2);
 }
 

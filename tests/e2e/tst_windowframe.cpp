@@ -1,8 +1,7 @@
 #include "tests/support/programprocess.h"
 #include "tests/support/programwindow.h"
-#include "tests/support/serviceclient.h"
-#include "tests/support/testsystem.h"
 
+#include <QProcess>
 #include <QTest>
 
 /// The frameless window as the desktop's window manager treats it.
@@ -12,15 +11,20 @@ class TestWindowFrame : public QObject
 
 private slots:
     void minimisedAndRestoredFromOutside();
-    void closedFromOutside_data();
-    void closedFromOutside();
 
 private:
+    /// What a tool of the desktop writes.
+    static QByteArray run(const QString &tool, const QStringList &arguments)
+    {
+        QProcess process;
+        process.start(tool, arguments);
+        process.waitForFinished();
+        return process.readAllStandardOutput();
+    }
     static QByteArray property(const char *name, qulonglong window)
     {
-        return TestSystem::runDesktopTool(
-            QStringLiteral("xprop"),
-            {QStringLiteral("-id"), QString::number(window), QString::fromLatin1(name)});
+        return run(QStringLiteral("xprop"),
+                   {QStringLiteral("-id"), QString::number(window), QString::fromLatin1(name)});
     }
 };
 
@@ -38,41 +42,12 @@ void TestWindowFrame::minimisedAndRestoredFromOutside()
     const QRect place = ProgramWindow::geometry();
 
     // As a task bar does both.
-    ProgramWindow::input({QStringLiteral("windowminimize"), QString::number(window)});
+    run(QStringLiteral("xdotool"), {QStringLiteral("windowminimize"), QString::number(window)});
     QTRY_VERIFY(property("WM_STATE", window).contains("Iconic"));
-    ProgramWindow::input({QStringLiteral("windowactivate"), QString::number(window)});
+    run(QStringLiteral("xdotool"), {QStringLiteral("windowactivate"), QString::number(window)});
     QTRY_VERIFY(property("WM_STATE", window).contains("Normal"));
     QTRY_COMPARE(ProgramWindow::geometry(), place);
     QCOMPARE(program.process.state(), QProcess::Running);
-}
-
-void TestWindowFrame::closedFromOutside_data()
-{
-    QTest::addColumn<bool>("closeHides");
-    QTest::newRow("ends the program") << false;
-    QTest::newRow("hides the window") << true;
-}
-
-/// By the window manager's key, which is what the task bar's "Close window" comes to as well.
-void TestWindowFrame::closedFromOutside()
-{
-    QFETCH(bool, closeHides);
-    ProgramProcess program;
-    ProgramProcess::writeSettings(closeHides ? "minimize_close=true\n" : "minimize_close=false\n");
-    QVERIFY(program.startAndServe());
-    QTRY_VERIFY(ProgramWindow::shown() != 0);
-    ProgramWindow::input({QStringLiteral("windowactivate"), QStringLiteral("--sync"),
-                          QString::number(ProgramWindow::shown())});
-    ProgramWindow::press({QStringLiteral("alt+F4")});
-    QTRY_COMPARE(ProgramWindow::shown(), 0ULL);
-    if (!closeHides) {
-        QTRY_COMPARE(program.process.state(), QProcess::NotRunning);
-        QCOMPARE(program.process.exitCode(), 0);
-        return;
-    }
-    QTest::qWait(1000); // it would have ended by now
-    QCOMPARE(program.process.state(), QProcess::Running);
-    QVERIFY(!ServiceClient::readAnswer().isEmpty());
 }
 
 QTEST_MAIN(TestWindowFrame)

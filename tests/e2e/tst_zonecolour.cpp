@@ -1,3 +1,4 @@
+#include "system/testing/desktop.h"
 #include "tests/e2e/programlines.h"
 #include "tests/support/programprocess.h"
 #include "tests/support/programtwin.h"
@@ -130,8 +131,8 @@ void TestZoneColour::appliedWithTheMouse()
     const QImage before = pictureOf("keyboard_left");
     openPicker();
     clickOn("leRGB");
-    ProgramWindow::press({QStringLiteral("ctrl+a")});
-    ProgramWindow::press(letters("0 128 255"));
+    Desktop::press({QStringLiteral("ctrl+a")});
+    Desktop::press(letters("0 128 255"));
     QCOMPARE(ServiceClient::readLine(), Lines::threeZones); // nothing is applied yet
     clickOn("pushButton");
     QTRY_COMPARE(ProgramProcess::stored("Zone1Color"), QStringLiteral("0 128 255"));
@@ -155,21 +156,21 @@ void TestZoneColour::appliedWithTheKeyboard()
     const QString tab = QStringLiteral("Tab");
     const QString leave = QStringLiteral("ctrl+Tab");
     // Backlight, slider, tabs, the first zone's button.
-    ProgramWindow::press({tab, tab, tab, tab, QStringLiteral("space")});
+    Desktop::press({tab, tab, tab, tab, QStringLiteral("space")});
     QTest::qWait(500);
     // The square has the focus. Then strip, sample, RGB.
-    ProgramWindow::press({tab, tab, tab});
-    ProgramWindow::press(letters("0 255 128"));
+    Desktop::press({tab, tab, tab});
+    Desktop::press(letters("0 255 128"));
     // HEX, list, copy, cancel, apply; paste is disabled.
-    ProgramWindow::press({leave, leave, tab, tab, tab, QStringLiteral("space")});
+    Desktop::press({leave, leave, tab, tab, tab, QStringLiteral("space")});
     QTRY_COMPARE(ProgramProcess::stored("Zone1Color"), QStringLiteral("0 255 128"));
     QTRY_COMPARE(ServiceClient::readLine(), lineWithLeftWord(0xF08000FFU));
 
     // The focus is back on the button; the square takes it again: value 255 less ten, twice.
-    ProgramWindow::press({QStringLiteral("space")});
+    Desktop::press({QStringLiteral("space")});
     QTest::qWait(500);
-    ProgramWindow::press({QStringLiteral("shift+Down"), QStringLiteral("shift+Down"), tab, tab, tab,
-                          leave, leave, tab, tab, tab, QStringLiteral("space")});
+    Desktop::press({QStringLiteral("shift+Down"), QStringLiteral("shift+Down"), tab, tab, tab,
+                    leave, leave, tab, tab, tab, QStringLiteral("space")});
     QTRY_COMPARE(ProgramProcess::stored("Zone1Color"), QStringLiteral("0 235 118"));
 }
 
@@ -177,8 +178,8 @@ void TestZoneColour::cancelled()
 {
     openPicker();
     clickOn("leHex");
-    ProgramWindow::press({QStringLiteral("ctrl+a")});
-    ProgramWindow::press(letters("123456"));
+    Desktop::press({QStringLiteral("ctrl+a")});
+    Desktop::press(letters("123456"));
     clickOn("pushButton_2");
     QTest::qWait(500);
     QCOMPARE(ProgramProcess::stored("Zone1Color"), QStringLiteral("255 0 0"));

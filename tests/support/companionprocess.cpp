@@ -1,5 +1,7 @@
 #include "tests/support/companionprocess.h"
 
+#include "tests/support/testpaths.h"
+
 #include <QDataStream>
 #include <QFileInfo>
 #include <QIODevice>
@@ -11,7 +13,7 @@ namespace {
 constexpr int usualSize = 64;
 
 /// With its drive, where there are drives: a test may move to another one.
-const QString program = QFileInfo(QStringLiteral(LUMIKEY_COMPANION_PATH)).absoluteFilePath();
+const QString program = TestPaths::helper(QStringLiteral(LUMIKEY_COMPANION_PATH));
 
 } // namespace
 

@@ -2,6 +2,7 @@
 
 #include "tests/support/guitest.h"
 #include "tests/support/programwindow.h"
+#include "tests/support/testpaths.h"
 #include "tests/support/testsystem.h"
 
 #include <QFileInfo>
@@ -54,7 +55,7 @@ QString ProgramProcess::settingsFile()
 
 QString ProgramProcess::executable()
 {
-    return QFileInfo(QStringLiteral(LUMIKEY_PROGRAM_PATH)).absoluteFilePath();
+    return TestPaths::lumikey(QStringLiteral(LUMIKEY_PROGRAM_PATH));
 }
 
 QString ProgramProcess::programFolder()

@@ -1,13 +1,11 @@
 #include "tests/support/smalldisk.h"
 
-#include "tests/support/guitest.h"
+#include "system/testing/roughhandling.h"
 #include "tests/support/programprocess.h"
 #include "tests/support/testsystem.h"
 
 #include <QDir>
 #include <QFile>
-
-#include <utility>
 
 std::unique_ptr<SmallDisk> SmallDisk::underTheSettings()
 {
@@ -15,42 +13,29 @@ std::unique_ptr<SmallDisk> SmallDisk::underTheSettings()
     if (mountPoint.isEmpty()) {
         return nullptr;
     }
-    QDir().mkpath(ProgramProcess::documents());
-    return std::unique_ptr<SmallDisk>(
-        new SmallDisk(mountPoint, ProgramProcess::documents() + QStringLiteral("/Corvane")));
+    return std::unique_ptr<SmallDisk>(new SmallDisk(mountPoint));
 }
 
-SmallDisk::SmallDisk(QString mountPoint, QString settingsFolder)
-    : disk(std::move(mountPoint))
-    , folder(std::move(settingsFolder))
+SmallDisk::SmallDisk(const QString &mountPoint)
+    : disk(QDir(mountPoint).absolutePath())
+    , documents(TestSystem::moveDocuments(disk))
 {
     clear(); // of what a test has left that was ended in the middle
-    TestSystem::runDesktopTool(QStringLiteral("ln"),
-                               {QStringLiteral("-sfn"), disk, TestSystem::pathOnDesktop(folder)});
-    writeFile(filler(), "x");
-    const QByteArray seen =
-        TestSystem::runDesktopTool(QStringLiteral("cat"), {disk + QStringLiteral("/filler")});
-    makeRoom();
-    if (seen != "x") {
-        qFatal("the small disk is not at %s", qPrintable(folder));
+    if (QDir(ProgramProcess::documents()) != QDir(disk)) {
+        qFatal("the documents are not at %s", qPrintable(disk));
     }
 }
 
 SmallDisk::~SmallDisk()
 {
     clear();
-    TestSystem::runDesktopTool(QStringLiteral("rm"),
-                               {QStringLiteral("-f"), TestSystem::pathOnDesktop(folder)});
 }
 
 void SmallDisk::clear() const
 {
     setWritable(true);
-    for (const char *entry : {"filler", "Lumikey"}) {
-        TestSystem::runDesktopTool(
-            QStringLiteral("rm"),
-            {QStringLiteral("-rf"), disk + QLatin1Char('/') + QLatin1String(entry)});
-    }
+    makeRoom();
+    QDir(disk + QStringLiteral("/Corvane")).removeRecursively();
 }
 
 void SmallDisk::fill() const
@@ -63,7 +48,7 @@ void SmallDisk::fill() const
     constexpr int farTooMany = 1000;
     for (int pages = 0; file.write(page) == page.size(); ++pages) {
         if (pages == farTooMany) {
-            qFatal("%s is no small disk", qPrintable(folder));
+            qFatal("%s is no small disk", qPrintable(disk));
         }
     }
 }
@@ -73,10 +58,7 @@ void SmallDisk::makeRoom() const
     QFile::remove(filler());
 }
 
-void SmallDisk::setWritable(bool writable) const
+bool SmallDisk::setWritable(bool writable) const
 {
-    TestSystem::runDesktopTool(QStringLiteral("mount"),
-                               {QStringLiteral("-o"),
-                                QStringLiteral("remount,") + QLatin1String(writable ? "rw" : "ro"),
-                                disk});
+    return RoughHandling::setDiskWritable(disk, writable);
 }

@@ -1,6 +1,7 @@
 #include "tests/support/standins.h"
 
 #include "tests/support/guitest.h"
+#include "tests/support/testpaths.h"
 
 #include <QCoreApplication>
 
@@ -8,9 +9,11 @@ namespace {
 
 QString recorder()
 {
-    // The path names no drive; a test may have moved to another one.
+    // The path may name no drive; a test may have moved to another one.
     return QDir(QCoreApplication::applicationDirPath())
-        .absoluteFilePath(QStringLiteral(LUMIKEY_RECORDER_PATH));
+        .absoluteFilePath(TestPaths::kit().isEmpty()
+                              ? QStringLiteral(LUMIKEY_RECORDER_PATH)
+                              : TestPaths::helper(QStringLiteral(LUMIKEY_RECORDER_PATH)));
 }
 
 bool programsHaveASuffix()

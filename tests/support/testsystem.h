@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include <memory>
 #include <optional>
 
 /// What the end-to-end tests ask of the system itself, past the program's own door to it. One
@@ -17,12 +18,12 @@ namespace TestSystem {
 /// user's. Ends the test program where that is impossible and nobody has said that the user is one.
 void throwAwayUser(const QTemporaryDir &home);
 
+/// Puts the user's documents into another folder until what is returned goes.
+std::shared_ptr<void> moveDocuments(const QString &folder);
+
 /// What the program is started with: nothing but its own folder on the path, the log on its error
 /// output.
 QProcessEnvironment programEnvironment(const QString &programFolder);
-
-/// Runs a tool of the X11 desktop to its end; what it wrote. Under Wine it is the desktop around.
-QByteArray runDesktopTool(const QString &tool, const QStringList &arguments);
 
 /// The path in the autostart entry as the system keeps it; nothing when there is no entry.
 std::optional<QString> autostartEntry();
@@ -50,8 +51,9 @@ std::optional<int> displayDpi();
 /// Sets it, or takes it out, and leaves the desktop's other settings as they are.
 void setDisplayDpi(std::optional<int> dpi);
 
-/// The path of a file as the tools of the desktop name it.
-QString pathOnDesktop(const QString &path);
+/// Whether this machine is a person's own, which tests leave as it is, and not one that is made for
+/// them.
+bool isPersonsOwn();
 
 /// What the user answers when the system asks whether a program may have administrator rights.
 enum class Consent {

@@ -2,8 +2,6 @@
 
 #include "tests/support/guitest.h"
 
-#include <QProcess>
-
 #include <cstdlib>
 #include <memory>
 
@@ -137,19 +135,19 @@ void TestSystem::throwAwayUser(const QTemporaryDir &home)
     qputenv("XDG_CONFIG_HOME", home.filePath(QStringLiteral("config")).toLocal8Bit());
 }
 
+std::shared_ptr<void> TestSystem::moveDocuments(const QString &folder)
+{
+    const QString file =
+        qEnvironmentVariable("XDG_CONFIG_HOME") + QStringLiteral("/user-dirs.dirs");
+    writeFile(file, "XDG_DOCUMENTS_DIR=\"" + QFile::encodeName(folder) + "\"\n");
+    return {nullptr, [file](void *) {
+                QFile::remove(file);
+            }};
+}
+
 QProcessEnvironment TestSystem::programEnvironment(const QString & /*programFolder*/)
 {
     return QProcessEnvironment::systemEnvironment();
-}
-
-QByteArray TestSystem::runDesktopTool(const QString &tool, const QStringList &arguments)
-{
-    QProcess process;
-    process.start(tool, arguments);
-    if (!process.waitForFinished()) {
-        qFatal("%s did not end", qPrintable(tool));
-    }
-    return process.readAllStandardOutput();
 }
 
 std::optional<QString> TestSystem::autostartEntry()
@@ -222,9 +220,9 @@ void TestSystem::setDisplayDpi(std::optional<int> dpi)
     resources.write(lines);
 }
 
-QString TestSystem::pathOnDesktop(const QString &path)
+bool TestSystem::isPersonsOwn()
 {
-    return path;
+    return false;
 }
 
 bool TestSystem::asksForConsent()

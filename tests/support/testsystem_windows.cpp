@@ -1,12 +1,11 @@
 #include "tests/support/testsystem.h"
 
 #include "tests/support/guitest.h"
+#include "tests/support/testpaths.h"
 
-#include <QProcess>
+#include <QLibrary>
 #include <QSettings>
 #include <QStandardPaths>
-#include <QTest>
-#include <QUuid>
 
 namespace {
 
@@ -14,16 +13,13 @@ const QString runKey =
     QStringLiteral("HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Run");
 const QString runValue = QStringLiteral("Lumikey");
 
+const QString foldersKey = QStringLiteral("HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\"
+                                          "CurrentVersion\\Explorer\\User Shell Folders");
+const QString documentsValue = QStringLiteral("Personal");
+
 // Wine reads it for each process that starts.
 const QString desktopKey = QStringLiteral("HKEY_CURRENT_USER\\Control Panel\\Desktop");
 const QString dpiValue = QStringLiteral("LogPixels");
-
-/// A word of a shell's command line.
-QString quoted(QString word)
-{
-    return QLatin1Char('\'') + word.replace(QLatin1Char('\''), QStringLiteral("'\\''"))
-           + QLatin1Char('\'');
-}
 
 } // namespace
 
@@ -42,38 +38,26 @@ void TestSystem::throwAwayUser(const QTemporaryDir & /*home*/)
     QSettings(runKey, QSettings::NativeFormat).remove(runValue);
 }
 
+std::shared_ptr<void> TestSystem::moveDocuments(const QString &folder)
+{
+    const auto set = [](const QVariant &value) {
+        QSettings(foldersKey, QSettings::NativeFormat).setValue(documentsValue, value);
+    };
+    const QVariant before = QSettings(foldersKey, QSettings::NativeFormat).value(documentsValue);
+    set(QDir::toNativeSeparators(folder));
+    return {nullptr, [set, before](void *) {
+                set(before);
+            }};
+}
+
 QProcessEnvironment TestSystem::programEnvironment(const QString &programFolder)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.remove(QStringLiteral("WINEPATH"));
+    environment.remove(QStringLiteral("QT_PLUGIN_PATH"));
     environment.insert(QStringLiteral("PATH"), QDir::toNativeSeparators(programFolder));
     environment.insert(QStringLiteral("QT_FORCE_STDERR_LOGGING"), QStringLiteral("1"));
     return environment;
-}
-
-QByteArray TestSystem::runDesktopTool(const QString &tool, const QStringList &arguments)
-{
-    // Wine hands the output of the desktop's programs to nobody, so somebody out there runs what is
-    // put into this folder.
-    const QString folder = qEnvironmentVariable("LUMIKEY_DESKTOP_TOOLS");
-    if (folder.isEmpty()) {
-        qFatal("LUMIKEY_DESKTOP_TOOLS names no folder that script/lib/desktop-tools watches");
-    }
-    QString line = tool;
-    for (const QString &argument : arguments) {
-        line += QLatin1Char(' ') + quoted(argument);
-    }
-    const QString name = QStringLiteral("Z:") + folder + QLatin1Char('/')
-                         + QUuid::createUuid().toString(QUuid::WithoutBraces);
-    writeFile(name + QStringLiteral(".new"), line.toUtf8());
-    QFile::rename(name + QStringLiteral(".new"), name + QStringLiteral(".tool"));
-    const QString output = name + QStringLiteral(".output");
-    if (!QTest::qWaitFor([&output] { return QFile::exists(output); }, 30'000)) {
-        qFatal("%s did not end", qPrintable(tool));
-    }
-    const QByteArray written = readFile(output);
-    QFile::remove(output);
-    return written;
 }
 
 std::optional<QString> TestSystem::autostartEntry()
@@ -96,7 +80,7 @@ QStringList TestSystem::commandWithRights(bool elevated, const QString &program)
     if (elevated) {
         return {program};
     }
-    return {QStringLiteral(LUMIKEY_WITHOUT_RIGHTS_PATH), program};
+    return {TestPaths::helper(QStringLiteral(LUMIKEY_WITHOUT_RIGHTS_PATH)), program};
 }
 
 bool TestSystem::messagesOutliveTheirSender()
@@ -133,14 +117,10 @@ void TestSystem::setDisplayDpi(std::optional<int> dpi)
     }
 }
 
-QString TestSystem::pathOnDesktop(const QString &path)
+bool TestSystem::isPersonsOwn()
 {
-    QProcess process;
-    process.start(QStringLiteral("winepath"), {QStringLiteral("-u"), path});
-    if (!process.waitForFinished()) {
-        qFatal("winepath did not end");
-    }
-    return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+    // Wine is nobody's own; it says so.
+    return QLibrary::resolve(QStringLiteral("ntdll"), "wine_get_version") == nullptr;
 }
 
 bool TestSystem::asksForConsent()
