@@ -9,6 +9,7 @@
 #include <QDebug>
 #include <QDesktopWidget>
 #include <QDir>
+#include <QFileInfo>
 #include <QFont>
 
 namespace {
@@ -29,12 +30,27 @@ void repairWorkingDirectoryAndAutostart(Platform &platform)
     }
 }
 
-void setFontForDpi()
+/// Moves to the program's folder after a start from a folder that has nothing of the program's: a
+/// terminal's, or the system's own, where an elevated start begins.
+void findBranding(const Platform &platform)
+{
+    const QString branding = QStringLiteral("branding");
+    const QDir programFolder(platform.programFolder());
+    if (!QFileInfo::exists(branding) && programFolder.exists(branding)) {
+        QDir::setCurrent(programFolder.path());
+    }
+}
+
+void setFontForDpi(const Platform &platform)
 {
     QFont font = QApplication::font();
     const int dpi = QApplication::desktop()->logicalDpiX();
     qDebug() << "Logical DPI:" << dpi;
     if (const auto pixelSize = fontPixelSize(dpi)) {
+        // Qt's own choice on Windows is a font of older days.
+        if (const auto family = platform.messageFontFamily()) {
+            font.setFamily(*family);
+        }
         font.setPixelSize(*pixelSize);
         QApplication::setFont(font);
     }
@@ -55,11 +71,18 @@ int main(int argc, char *argv[])
     const std::unique_ptr<Platform> platform = createPlatform();
     repairWorkingDirectoryAndAutostart(*platform);
 
+    // At each change of the display's scale Qt asks anew whether to scale, by the attribute below,
+    // too. The window adapts itself, once, so the answer stays no.
+    QCoreApplication::setAttribute(Qt::AA_DisableHighDpiScaling);
     SingleApplication application(argc, argv, false, SingleApplication::PerUser, instanceTimeoutMs,
                                   *platform);
+    findBranding(*platform);
+    // Qt would close the window when the system asks whether the session may end, and with it the
+    // program, also where the user then stays.
+    QGuiApplication::setFallbackSessionManagementEnabled(false);
     // Set after the application exists, so Qt leaves scaling alone: the window adapts itself.
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
-    setFontForDpi();
+    setFontForDpi(*platform);
     // Behind the guard, on purpose: the name that all copies share is made of the identity as Qt
     // finds it by itself. Set earlier, it would part this version from those that already run.
     setIdentity();

@@ -112,6 +112,8 @@ SingleApplicationPrivate::Role SingleApplicationPrivate::takeRole(bool allowSeco
     const bool attached = created || block->attach();
     if (!attached || block->size() < static_cast<int>(sizeof(InstanceBlock)) || !block->lock()) {
         block.reset();
+        // The running copy may have other rights than this one, so that all about it is hidden.
+        platform.letComeToFront(Platform::anyProcess);
         return Role::Leaving;
     }
     Role role = Role::Primary;

@@ -48,6 +48,10 @@ public:
     /// absolute.
     virtual QString programFolder() const = 0;
 
+    /// Takes back that the user has switched the entry off elsewhere, where the system lets them:
+    /// it would outlive the entry. A failed write is silent.
+    virtual void removeAutostartVeto() = 0;
+
     /// The log-in name of the user whose process this is; nothing when it cannot be told.
     virtual std::optional<QString> userName() const = 0;
 
@@ -56,6 +60,9 @@ public:
     /// @param name letters that may stand in a file name
     /// @return nothing when the lock cannot be had
     virtual std::shared_ptr<void> acquireLock(const QString &name, int timeoutMs) = 0;
+
+    /// Stands for every process in letComeToFront().
+    static constexpr qint64 anyProcess = -1;
 
     /// Lets another process put its window in front of all others, as this one, which the user has
     /// just started, may. Without effect where every process may.
@@ -66,10 +73,14 @@ public:
     /// with which listening started; it refuses what does not fit, and clients try again.
     virtual void lengthenListenQueue(qintptr socketDescriptor) = 0;
 
-    /// Lets a click on the task bar minimise a window that is active, where the system does so only
-    /// with windows that say they may be minimised, and a frameless one does not say it.
-    /// @param window a native top-level window of this process
-    virtual void letTaskBarMinimise(quintptr window) = 0;
+    /// Gives a frameless window what the system gives only to those that ask: a click on the task
+    /// bar minimises it, its corners are those of the other windows, and the notices of a resume
+    /// and of the session's unlocking reach it on machines that send them to nobody else.
+    /// @param window a native top-level window of this process, just made
+    virtual void prepareWindow(quintptr window) = 0;
+
+    /// The family of the font that the system writes its messages in; nothing where it names none.
+    virtual std::optional<QString> messageFontFamily() const = 0;
 
     // Input and sleep
 
@@ -80,6 +91,11 @@ public:
     /// Whether a native event is the system's notice that it has resumed from sleep.
     /// @param eventType, message as a QAbstractNativeEventFilter receives them
     virtual bool isResumeMessage(const QByteArray &eventType, const void *message) const = 0;
+
+    /// Whether a native event is the system's notice that the user has unlocked the session, of
+    /// whose keys no program hears.
+    /// @param eventType, message as a QAbstractNativeEventFilter receives them
+    virtual bool isUnlockMessage(const QByteArray &eventType, const void *message) const = 0;
 
     /// From now on calls @p resumed each time the machine has resumed from sleep, where the system
     /// tells it otherwise than by a native event. A later call replaces the function; an empty one

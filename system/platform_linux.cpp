@@ -67,6 +67,9 @@ public:
 
     QString programFolder() const override { return QCoreApplication::applicationDirPath(); }
 
+    /// It would be in the entry itself, which is written anew.
+    void removeAutostartVeto() override {}
+
     std::optional<QString> userName() const override
     {
         const passwd *const user = ::getpwuid(::geteuid());
@@ -89,8 +92,10 @@ public:
         ::listen(static_cast<int>(socketDescriptor), SOMAXCONN);
     }
 
-    /// The window managers of this system minimise any window.
-    void letTaskBarMinimise(quintptr /*window*/) override {}
+    /// The window managers of this system minimise any window and treat all alike.
+    void prepareWindow(quintptr /*window*/) override {}
+
+    std::optional<QString> messageFontFamily() const override { return std::nullopt; }
 
     KeyPresses keysPressedSinceLastPoll() override
     {
@@ -102,6 +107,12 @@ public:
 
     /// logind tells of it over D-Bus, see notifyOfResume().
     bool isResumeMessage(const QByteArray & /*eventType*/, const void * /*message*/) const override
+    {
+        return false;
+    }
+
+    /// The display tells of keys in a locked session, too.
+    bool isUnlockMessage(const QByteArray & /*eventType*/, const void * /*message*/) const override
     {
         return false;
     }

@@ -14,12 +14,16 @@
 
 #include <lmcons.h>
 #include <shellapi.h>
+#include <wtsapi32.h>
 
 namespace {
 
 const QString runKey =
     QStringLiteral("HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Run");
 const QString runValue = QStringLiteral("Lumikey");
+// Where Task Manager and Settings note which entries of the key above do not start.
+const QString vetoKey = QStringLiteral("HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\"
+                                       "CurrentVersion\\Explorer\\StartupApproved\\Run");
 const QString firmwareDriverKey =
     QStringLiteral("HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\WmiAcpi");
 const QString firmwareLibraryValue = QStringLiteral("MofImagePath");
@@ -34,6 +38,35 @@ void closeHandle(HANDLE handle)
 {
     if (handle != nullptr) {
         ::CloseHandle(handle);
+    }
+}
+
+/// A function that not every version of Windows has, from a library that is loaded by then; null
+/// where it is missing.
+template<class Function> Function *resolve(const wchar_t *library, const char *name)
+{
+    const FARPROC address = ::GetProcAddress(::GetModuleHandleW(library), name);
+    return reinterpret_cast<Function *>(reinterpret_cast<void (*)()>(address));
+}
+
+/// Has a window told of resumes. Machines that never sleep deeply tell only those who ask.
+void registerForResume(HWND window)
+{
+    // The system drops the registration with the window.
+    if (auto *const call = resolve<HPOWERNOTIFY WINAPI(HANDLE, DWORD)>(
+            L"user32", "RegisterSuspendResumeNotification")) {
+        call(window, DEVICE_NOTIFY_WINDOW_HANDLE);
+    }
+}
+
+/// Windows 11 rounds the corners of windows with a frame, and of others that ask.
+void roundCorners(HWND window)
+{
+    constexpr DWORD cornerPreference = 33;
+    constexpr DWORD roundedCorners = 2;
+    if (auto *const call = resolve<HRESULT WINAPI(HWND, DWORD, const void *, DWORD)>(
+            L"dwmapi", "DwmSetWindowAttribute")) {
+        call(window, cornerPreference, &roundedCorners, sizeof roundedCorners);
     }
 }
 
@@ -61,6 +94,11 @@ public:
     }
 
     QString programFolder() const override { return QCoreApplication::applicationDirPath(); }
+
+    void removeAutostartVeto() override
+    {
+        QSettings(vetoKey, QSettings::NativeFormat).remove(runValue);
+    }
 
     std::optional<QString> userName() const override
     {
@@ -92,6 +130,7 @@ public:
 
     void letComeToFront(qint64 processId) override
     {
+        static_assert(static_cast<DWORD>(anyProcess) == ASFW_ANY);
         ::AllowSetForegroundWindow(static_cast<DWORD>(processId));
     }
 
@@ -100,11 +139,25 @@ public:
         ::listen(static_cast<SOCKET>(socketDescriptor), SOMAXCONN);
     }
 
-    void letTaskBarMinimise(quintptr window) override
+    void prepareWindow(quintptr window) override
     {
         const auto handle = reinterpret_cast<HWND>(window);
         ::SetWindowLongPtrW(handle, GWL_STYLE,
                             ::GetWindowLongPtrW(handle, GWL_STYLE) | WS_MINIMIZEBOX);
+        ::WTSRegisterSessionNotification(handle, NOTIFY_FOR_THIS_SESSION);
+        registerForResume(handle);
+        roundCorners(handle);
+    }
+
+    std::optional<QString> messageFontFamily() const override
+    {
+        NONCLIENTMETRICSW metrics = {};
+        metrics.cbSize = sizeof metrics;
+        if (::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, metrics.cbSize, &metrics, 0) == 0) {
+            return std::nullopt;
+        }
+        return QString::fromWCharArray(
+            static_cast<const wchar_t *>(metrics.lfMessageFont.lfFaceName));
     }
 
     KeyPresses keysPressedSinceLastPoll() override
@@ -121,6 +174,12 @@ public:
     {
         const auto *const msg = static_cast<const MSG *>(message);
         return msg->message == WM_POWERBROADCAST && msg->wParam == PBT_APMRESUMESUSPEND;
+    }
+
+    bool isUnlockMessage(const QByteArray & /*eventType*/, const void *message) const override
+    {
+        const auto *const msg = static_cast<const MSG *>(message);
+        return msg->message == WM_WTSSESSION_CHANGE && msg->wParam == WTS_SESSION_UNLOCK;
     }
 
     /// Windows tells of it by a message, see isResumeMessage().

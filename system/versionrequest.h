@@ -2,7 +2,9 @@
 
 #include <QByteArray>
 #include <QNetworkAccessManager>
+#include <QNetworkProxy>
 #include <QObject>
+#include <QProcessEnvironment>
 #include <QString>
 #include <QUrl>
 
@@ -11,6 +13,11 @@ class QNetworkReply;
 /// Where the latest version is told.
 /// @param server scheme and host of the update server; the compiled-in one when empty
 QUrl versionUrl(const QString &server);
+
+/// The way to a server: through the proxy that the variable "http_proxy" names, as scheme, host and
+/// port or without the scheme, unless "no_proxy" excepts the host; else a direct connection. What
+/// the system knows of proxies is not asked: it may look for one for many seconds.
+QNetworkProxy proxyFor(const QUrl &url, const QProcessEnvironment &environment);
 
 /// Asks the update server once for the latest version. Neither errors nor the status are looked at:
 /// whatever body arrives is the answer, and no body is an empty one. Redirects are not followed.
@@ -40,6 +47,6 @@ private slots:
 
 private:
     QNetworkAccessManager manager;
-    QNetworkReply *reply; ///< the manager's child
+    QNetworkReply *reply = nullptr; ///< the manager's child
     QByteArray body;
 };

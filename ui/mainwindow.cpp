@@ -29,6 +29,7 @@ MainWindow::MainWindow(AppSettings appSettings, Platform &system, PrimaryRole &r
     , clock(std::move(systemClock))
     , companion(system)
     , eventFilterForResume(system)
+    , unlockFilter(system)
 {
     ToggleAccessible::install();
     ui->setupUi(this);
@@ -48,6 +49,8 @@ MainWindow::MainWindow(AppSettings appSettings, Platform &system, PrimaryRole &r
     connect(companionTimer, SIGNAL(timeout()), this, SLOT(sharedmemtimer()));
     QCoreApplication::instance()->installNativeEventFilter(&eventFilterForResume);
     connect(&eventFilterForResume, SIGNAL(emitawake()), this, SLOT(suspendresumeaction()));
+    QCoreApplication::instance()->installNativeEventFilter(&unlockFilter);
+    connect(&unlockFilter, &UnlockFilter::unlocked, this, [this] { lastActivityMs = now(); });
     dimTimer = new QTimer(this);
     connect(dimTimer, SIGNAL(timeout()), this, SLOT(timerDone()));
     auto *const brightnessTimer = new QTimer(this);

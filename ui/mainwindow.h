@@ -9,6 +9,7 @@
 #include "lighting/lightingstate.h"
 #include "lighting/myeventfilter.h"
 #include "lighting/serviceendpoint.h"
+#include "lighting/unlockfilter.h"
 #include "system/types.h"
 #include "ui/lastinput.h"
 
@@ -269,6 +270,7 @@ private:
 
     CompanionReader companion;
     MyEventFilter eventFilterForResume;
+    UnlockFilter unlockFilter;
     QTimer *companionTimer = nullptr;
     QTimer *dimTimer = nullptr;
 };

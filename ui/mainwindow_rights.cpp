@@ -16,11 +16,14 @@ void MainWindow::requestadmin()
 {
     // First, or the elevated copy would find this one running and leave.
     primaryRole.handOver();
+    // The system keeps the icon of a process that ends without taking it away.
+    trayIcon->hide();
     const Platform::Relaunch outcome = platform.relaunchElevated();
     if (outcome == Platform::Relaunch::Launched) {
         platform.endProcess(1);
         return;
     }
+    trayIcon->show();
     primaryRole.takeBack();
     if (outcome == Platform::Relaunch::Declined) {
         qDebug("User did not allow elevation");

@@ -90,7 +90,7 @@ bool MainWindow::event(QEvent *event)
     // Qt makes the native window anew when its flags change, and the new one knows nothing of what
     // the old one was told; so each is told.
     if (event->type() == QEvent::WinIdChange && internalWinId() != 0) {
-        platform.letTaskBarMinimise(internalWinId());
+        platform.prepareWindow(internalWinId());
     }
     return QMainWindow::event(event);
 }

@@ -61,6 +61,7 @@ void MainWindow::on_Check_StartwithWindows_clicked()
     if (ui->Check_StartwithWindows->isChecked()) {
         platform.setAutostartValue(
             QDir::toNativeSeparators(QCoreApplication::applicationFilePath()));
+        platform.removeAutostartVeto();
     } else {
         platform.removeAutostartValue();
     }

@@ -22,19 +22,28 @@ SleepNotices::~SleepNotices()
 
 void SleepNotices::resume(Delivery delivery)
 {
+    // A window that has registered for the notice hears it beside the one that is for everybody.
+    constexpr int notices = 2;
     switch (delivery) {
     case Delivery::Asked:
         if (d->asking.joinable()) {
             d->asking.join();
         }
-        d->asking = std::thread(
-            [] { ::SendMessageW(HWND_BROADCAST, WM_POWERBROADCAST, PBT_APMRESUMESUSPEND, 0); });
+        d->asking = std::thread([] {
+            for (int notice = 0; notice < notices; ++notice) {
+                ::SendMessageW(HWND_BROADCAST, WM_POWERBROADCAST, PBT_APMRESUMESUSPEND, 0);
+            }
+        });
         break;
     case Delivery::Told:
-        ::SendNotifyMessageW(HWND_BROADCAST, WM_POWERBROADCAST, PBT_APMRESUMESUSPEND, 0);
+        for (int notice = 0; notice < notices; ++notice) {
+            ::SendNotifyMessageW(HWND_BROADCAST, WM_POWERBROADCAST, PBT_APMRESUMESUSPEND, 0);
+        }
         break;
     case Delivery::Queued:
-        ::PostMessageW(HWND_BROADCAST, WM_POWERBROADCAST, PBT_APMRESUMESUSPEND, 0);
+        for (int notice = 0; notice < notices; ++notice) {
+            ::PostMessageW(HWND_BROADCAST, WM_POWERBROADCAST, PBT_APMRESUMESUSPEND, 0);
+        }
         break;
     }
 }

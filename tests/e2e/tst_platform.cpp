@@ -1,7 +1,9 @@
 #include "system/platform.h"
+#include "system/testing/currentuser.h"
 #include "tests/support/programprocess.h"
 #include "tests/support/testsystem.h"
 
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -18,6 +20,7 @@ private slots:
     void autostartEntry();
     void missingAutostartEntry();
     void userName();
+    void messageFont();
     void rightsCanBeTold();
     void sleepTakesItsTime();
     void queueHoldsABurst();
@@ -61,19 +64,24 @@ void TestPlatform::missingAutostartEntry()
 
 void TestPlatform::userName()
 {
-    QCOMPARE(platform->userName().value_or(QString()),
-             QString::fromLocal8Bit(
-                 TestSystem::runDesktopTool(QStringLiteral("id"), {QStringLiteral("-un")}))
-                 .trimmed());
+    QCOMPARE(platform->userName().value_or(QString()), CurrentUser::name());
+}
+
+void TestPlatform::messageFont()
+{
+    // The toolkit's message boxes are written in it, too, where there is one.
+    const auto family = platform->messageFontFamily();
+    if (!platform->executableForm().fileName.endsWith(QStringLiteral(".exe"))) {
+        QVERIFY(!family);
+        return;
+    }
+    QVERIFY(family && !family->isEmpty());
+    QCOMPARE(*family, QApplication::font("QMessageBox").family());
 }
 
 void TestPlatform::rightsCanBeTold()
 {
-    // Wine's user belongs to the administrators, whoever that is on the desktop around it.
-    const bool root =
-        TestSystem::runDesktopTool(QStringLiteral("id"), {QStringLiteral("-u")}).trimmed() == "0";
-    const bool isWindows = platform->executableForm().fileName.endsWith(QStringLiteral(".exe"));
-    QCOMPARE(platform->isElevated(), root || isWindows);
+    QCOMPARE(platform->isElevated(), CurrentUser::isElevated());
 }
 
 void TestPlatform::sleepTakesItsTime()

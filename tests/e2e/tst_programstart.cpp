@@ -133,12 +133,13 @@ void TestProgramStart::startFromASystemFolderFindsTheBranding()
     QVERIFY(brandedPart() == expected);
     program = std::make_unique<ProgramProcess>();
 
-    // The same without the entry that tells where the program is: nothing of its own is found.
+    // The same without the entry that tells where the program is, as an elevated start does.
     ProgramProcess::writeSettings(Lines::threeZonesSettings);
     QVERIFY(program->startAndServe(TestSystem::systemFolder(program->home)));
     QTRY_VERIFY(ProgramWindow::shown() != 0);
     QTest::qWait(Lines::appliedAfterMs);
-    QVERIFY(brandedPart() != expected);
+    QVERIFY(brandedPart() == expected);
+    QVERIFY(!TestSystem::autostartEntry().has_value());
 }
 
 void TestProgramStart::argumentsAreNotExamined()

@@ -1,7 +1,9 @@
 #include "tests/support/boxwatcher.h"
 #include "tests/support/standins.h"
+#include "tests/support/testsystem.h"
 #include "tests/support/testwindow.h"
 
+#include <QCheckBox>
 #include <QDateTime>
 #include <QSettings>
 #include <QTest>
@@ -21,9 +23,18 @@ class TestRegistry : public QObject
     Q_OBJECT
 
 private slots:
+    void init();
     void installation();
     void oldValueIsReplaced();
+    void vetoOfTheTaskManager();
 };
+
+void TestRegistry::init()
+{
+    if (TestSystem::isPersonsOwn()) {
+        QSKIP("writes where a laptop's own settings are");
+    }
+}
 
 void TestRegistry::installation()
 {
@@ -39,7 +50,7 @@ void TestRegistry::installation()
     writeFile(QStringLiteral("installer/CLEVOMOF.dll"), "library");
     const std::unique_ptr<Platform> system = createPlatform();
     MainWindow window(world.settings, *system, world.primaryRole,
-                      QDateTime::currentMSecsSinceEpoch);
+                      QDateTime::currentMSecsSinceEpoch, ServiceEndpoint());
     const BoxWatcher watcher(QMessageBox::Yes);
     QVERIFY(QMetaObject::invokeMethod(&window, "installmof"));
 
@@ -59,6 +70,31 @@ void TestRegistry::oldValueIsReplaced()
     driver.sync();
     QCOMPARE(driver.value(libraryValue).toString(), QStringLiteral("syswow64\\clevomof.dll"));
     driver.remove(libraryValue);
+}
+
+void TestRegistry::vetoOfTheTaskManager()
+{
+    QSettings vetoes(QStringLiteral("HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\"
+                                    "CurrentVersion\\Explorer\\StartupApproved\\Run"),
+                     QSettings::NativeFormat);
+    const QByteArray switchedOff = QByteArray::fromHex("0300000000112233445566ff");
+    vetoes.setValue(QStringLiteral("Lumikey"), switchedOff);
+    vetoes.setValue(QStringLiteral("Another"), switchedOff);
+    vetoes.sync();
+    const std::unique_ptr<Platform> system = createPlatform();
+    TestWindow world;
+    MainWindow window(world.settings, *system, world.primaryRole,
+                      QDateTime::currentMSecsSinceEpoch, ServiceEndpoint());
+    auto *const box = widget<QCheckBox>(window, "Check_StartwithWindows");
+    QVERIFY(!box->isChecked());
+    vetoes.sync();
+    QVERIFY(vetoes.contains(QStringLiteral("Lumikey"))); // what was decided there stays
+    box->click();
+    vetoes.sync();
+    QVERIFY(!vetoes.contains(QStringLiteral("Lumikey")));
+    QVERIFY(vetoes.contains(QStringLiteral("Another")));
+    box->click();
+    vetoes.remove(QStringLiteral("Another"));
 }
 
 QTEST_MAIN(TestRegistry)

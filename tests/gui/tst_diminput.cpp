@@ -1,5 +1,7 @@
 #include "dimworld.h"
 
+#include <QAbstractEventDispatcher>
+
 class TestDimInput : public QObject
 {
     Q_OBJECT
@@ -18,6 +20,7 @@ private slots:
     void userDarkens();
     void backlightOffWhileDimmed();
     void resumeWakes();
+    void unlockingWakes();
     void settingsAppliedWhileDimmedUnderAnEffect();
 };
 
@@ -217,6 +220,24 @@ void TestDimInput::resumeWakes()
 }
 
 /// As after a resume: no poll is there to tell that the slider is the user's again.
+void TestDimInput::unlockingWakes()
+{
+    DimWorld world;
+    world.startDimming();
+    world.pollUntilDimmed();
+    long result = 0;
+    const auto send = [&result](const QByteArray &type) {
+        return QAbstractEventDispatcher::instance()->filterNativeEvent(type, &result, &result);
+    };
+    send("locked");
+    world.poll();
+    QCOMPARE(world.shown(), 0);
+    QVERIFY(!send("unlocked")); // others may want it, too
+    world.poll();
+    QCOMPARE(world.shown(), 100);
+    QVERIFY(world.wakePending());
+}
+
 void TestDimInput::settingsAppliedWhileDimmedUnderAnEffect()
 {
     DimWorld world;

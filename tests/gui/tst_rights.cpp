@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
+#include <QSystemTrayIcon>
 #include <QTest>
 
 #include <algorithm>
@@ -27,6 +28,7 @@ private slots:
     void notLaunched_data();
     void notLaunched();
     void roleIsGivenUpFirst();
+    void trayIconGoesWithTheRole();
     void questions_data();
     void questions();
     void escapeIsNo();
@@ -220,6 +222,25 @@ void TestRights::roleIsGivenUpFirst()
     };
     window.requestadmin();
     QCOMPARE(callsSoFar, QStringList{QStringLiteral("handOver")});
+}
+
+void TestRights::trayIconGoesWithTheRole()
+{
+    TestWindow world;
+    MainWindow &window = world.construct();
+    const auto *const icon = window.findChild<QSystemTrayIcon *>();
+    QVERIFY(icon != nullptr && icon->isVisible());
+    bool visibleMeanwhile = true;
+    world.platform.whenRelaunching = [&] {
+        visibleMeanwhile = icon->isVisible();
+    };
+    world.platform.relaunch = Platform::Relaunch::Declined;
+    window.requestadmin();
+    QVERIFY(!visibleMeanwhile);
+    QVERIFY(icon->isVisible());
+    world.platform.relaunch = Platform::Relaunch::Launched;
+    window.requestadmin();
+    QVERIFY(!icon->isVisible()); // or it would outlive the process
 }
 
 void TestRights::questions_data()

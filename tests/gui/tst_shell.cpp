@@ -38,7 +38,7 @@ class TestShell : public QObject
 
 private slots:
     void frame();
-    void minimisableFromTheTaskBar();
+    void nativeWindowIsPrepared();
     void eventFilterKeepsNothingBack();
     void closeButtonCloses();
     void closeButtonHides();
@@ -65,21 +65,21 @@ void TestShell::frame()
     QCOMPARE(window.windowFlags(), Qt::Window | Qt::FramelessWindowHint);
 }
 
-void TestShell::minimisableFromTheTaskBar()
+void TestShell::nativeWindowIsPrepared()
 {
     TestWindow world;
     MainWindow &window = world.start();
     const auto askedFor = [&world] {
-        return !world.platform.minimisable.isEmpty()
-               && world.platform.minimisable.last() == world.window->internalWinId();
+        return !world.platform.prepared.isEmpty()
+               && world.platform.prepared.last() == world.window->internalWinId();
     };
-    QVERIFY(world.platform.minimisable.isEmpty()); // there is no native window yet
+    QVERIFY(world.platform.prepared.isEmpty()); // there is no native window yet
     window.show();
     QVERIFY(askedFor());
-    world.platform.minimisable.clear();
+    world.platform.prepared.clear();
     window.hide();
     window.ShowInterface();
-    QVERIFY(world.platform.minimisable.isEmpty()); // it is the same window
+    QVERIFY(world.platform.prepared.isEmpty()); // it is the same window
     window.setWindowFlags(window.windowFlags() | Qt::WindowStaysOnTopHint);
     window.show();
     QVERIFY(askedFor()); // it was made over

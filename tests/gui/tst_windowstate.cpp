@@ -90,8 +90,10 @@ void TestWindowState::autostartBoxWritesTheEntry()
     box->click();
     QCOMPARE(world.platform.autostart.value_or(QString()),
              QDir::toNativeSeparators(QCoreApplication::applicationFilePath()));
+    QCOMPARE(world.platform.vetoesRemoved, 1);
     box->click();
     QVERIFY(!world.platform.autostart);
+    QCOMPARE(world.platform.vetoesRemoved, 1);
 }
 
 void TestWindowState::title_data()

@@ -23,6 +23,7 @@ public:
     void setAutostartValue(const QString &path) override { autostart = path; }
     void removeAutostartValue() override { autostart.reset(); }
     QString programFolder() const override { return installation.value_or(QDir::currentPath()); }
+    void removeAutostartVeto() override { ++vetoesRemoved; }
     std::optional<QString> userName() const override { return user; }
     std::shared_ptr<void> acquireLock(const QString &name, int timeoutMs) override
     {
@@ -34,11 +35,12 @@ public:
     {
         createPlatform()->lengthenListenQueue(socketDescriptor);
     }
-    void letTaskBarMinimise(quintptr window) override
+    void prepareWindow(quintptr window) override
     {
-        minimisable.append(window);
-        createPlatform()->letTaskBarMinimise(window);
+        prepared.append(window);
+        createPlatform()->prepareWindow(window);
     }
+    std::optional<QString> messageFontFamily() const override { return messageFont; }
     KeyPresses keysPressedSinceLastPoll() override
     {
         ++polls;
@@ -50,6 +52,10 @@ public:
     bool isResumeMessage(const QByteArray &eventType, const void * /*message*/) const override
     {
         return eventType == "resumed";
+    }
+    bool isUnlockMessage(const QByteArray &eventType, const void * /*message*/) const override
+    {
+        return eventType == "unlocked";
     }
     void notifyOfResume(std::function<void()> resumed) override
     {
@@ -95,6 +101,7 @@ public:
     std::optional<QString> autostart;
     std::optional<QString> installation; ///< the program's folder, if not the current directory
     std::optional<QString> user = QStringLiteral("somebody");
+    std::optional<QString> messageFont;
     KeyPresses presses;                ///< seen by one poll
     std::function<void()> whilePolled; ///< happens during each poll, before it has its answer
     std::function<void()> whileAsleep; ///< happens during each sleep
@@ -110,9 +117,10 @@ public:
     int locks = 0;
     int polls = 0;
     std::function<void()> resumeNotice;
-    QVector<int> sleeps;           ///< milliseconds
-    QVector<qint64> letToFront;    ///< process ids
-    QVector<quintptr> minimisable; ///< windows
+    QVector<int> sleeps;        ///< milliseconds
+    QVector<qint64> letToFront; ///< process ids
+    QVector<quintptr> prepared; ///< windows
+    int vetoesRemoved = 0;
     int relaunches = 0;
     std::optional<int> ended;
     QStringList launched;

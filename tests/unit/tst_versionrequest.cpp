@@ -13,7 +13,11 @@ class TestVersionRequest : public QObject
 private slots:
     void url_data();
     void url();
+    void proxy_data();
+    void proxy();
     void request();
+    void requestByProxy();
+    void systemsProxyIsNotAsked();
     void answers_data();
     void answers();
     void slowBody();
@@ -62,6 +66,94 @@ void TestVersionRequest::url()
 {
     QFETCH(QString, server);
     QTEST(versionUrl(server).toString(), "url");
+}
+
+void TestVersionRequest::proxy_data()
+{
+    QTest::addColumn<QString>("proxy");
+    QTest::addColumn<QString>("except");
+    QTest::addColumn<QString>("way");
+    const auto row = [](const char *name, const char *proxy, const char *except, const char *way) {
+        QTest::newRow(name) << QString::fromLatin1(proxy) << QString::fromLatin1(except)
+                            << QString::fromLatin1(way);
+    };
+    row("none", "", "", "direct");
+    row("address", "http://proxy.example:3128", "", "http proxy.example 3128");
+    row("without scheme", "proxy.example:3128", "", "http proxy.example 3128");
+    row("without port", "http://proxy.example", "", "http proxy.example 8080");
+    row("number", "10.1.2.3:80/", "", "http 10.1.2.3 80");
+    row("socks", "socks5://proxy.example", "", "socks proxy.example 1080");
+    row("blanks", "  ", "", "direct");
+    row("nonsense", "http://", "", "direct");
+    row("another host excepted", "p:1", "localhost, other.example", "http p 1");
+    row("host excepted", "p:1", "localhost, Update.There.example", "direct");
+    row("domain excepted", "p:1", "there.example", "direct");
+    row("domain with a dot", "p:1", ".there.example", "direct");
+    row("end of a name", "p:1", "here.example", "http p 1");
+    row("all excepted", "p:1", "*", "direct");
+    row("empty exceptions", "p:1", ",,", "http p 1");
+}
+
+void TestVersionRequest::proxy()
+{
+    QFETCH(QString, proxy);
+    QFETCH(QString, except);
+    QProcessEnvironment environment;
+    environment.insert(QStringLiteral("http_proxy"), proxy);
+    environment.insert(QStringLiteral("no_proxy"), except);
+    const QNetworkProxy found =
+        proxyFor(versionUrl(QStringLiteral("http://update.there.example")), environment);
+    const bool isDirect = found.type() == QNetworkProxy::NoProxy;
+    const bool isHttp = found.type() == QNetworkProxy::HttpProxy;
+    const QString way =
+        isDirect
+            ? QStringLiteral("direct")
+            : QStringLiteral("%1 %2 %3")
+                  .arg(isHttp ? QStringLiteral("http") : QStringLiteral("socks"), found.hostName())
+                  .arg(found.port());
+    QTEST(way, "way");
+}
+
+void TestVersionRequest::requestByProxy()
+{
+    VersionServer proxy;
+    proxy.answerWith("1.0.9");
+    qputenv("http_proxy", proxy.address().toLatin1());
+    const VersionRequest request(versionUrl(QStringLiteral("http://nowhere.invalid")));
+    QTRY_VERIFY(request.isFinished());
+    qunsetenv("http_proxy");
+    QCOMPARE(request.text(), QStringLiteral("1.0.9"));
+    QCOMPARE(proxy.requests.size(), 1);
+    const QByteArray head = proxy.requests.constFirst();
+    QVERIFY2(head.startsWith("GET http://nowhere.invalid/lumikey/version HTTP/1.1\r\n"),
+             head.constData());
+}
+
+void TestVersionRequest::systemsProxyIsNotAsked()
+{
+    // What the system would say, a proxy that waits for ever, say, is not waited for.
+    class Asked : public QNetworkProxyFactory
+    {
+    public:
+        explicit Asked(int &count)
+            : questions(count)
+        {}
+        QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery & /*query*/) override
+        {
+            ++questions;
+            return {QNetworkProxy::NoProxy};
+        }
+
+    private:
+        int &questions;
+    };
+    int questions = 0;
+    QNetworkProxyFactory::setApplicationProxyFactory(new Asked(questions)); // which is taken over
+    VersionServer server;
+    server.answerWith("1.0.4");
+    QCOMPARE(textOf(server), QStringLiteral("1.0.4"));
+    QNetworkProxyFactory::setApplicationProxyFactory(nullptr);
+    QCOMPARE(questions, 0);
 }
 
 void TestVersionRequest::request()
