@@ -30,6 +30,8 @@ ManifestSupportedOS all
 !define PUBLISHER TARVENWORKS
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\${NAME}"
 !define RUN_KEY "Software\Microsoft\Windows\CurrentVersion\Run"
+!define VETO_KEY "Software\Microsoft\Windows\CurrentVersion\Explorer\StartupApproved\Run"
+!define SERVICE_PORT 52316
 !define DEFAULT_FOLDER "$PROGRAMFILES64\${NAME}"
 
 !define EXIT_FAILED 2
@@ -254,6 +256,41 @@ Function FirstNewFolder
     Exch $0
 FunctionEnd
 
+; Runs a command of Windows without a window of its own. What comes of it is not looked at.
+!macro RunTool LINE
+    nsExec::Exec '"$SYSDIR\${LINE}'
+    Pop $0
+!macroend
+
+; Virtual machines are given blocks of ports out of the range that this one is in. While it lies in
+; such a block nobody can listen on it, unless it was set aside before.
+!macro SetPortAside DO
+    !insertmacro RunTool 'netsh.exe" int ipv4 ${DO} excludedportrange protocol=tcp \
+        startport=${SERVICE_PORT} numberofports=1 store=persistent'
+!macroend
+
+!macro ReturnWhenBelow FOLDER
+    StrLen $0 "${FOLDER}\"
+    StrCpy $0 $INSTDIR $0
+    ${If} $0 == "${FOLDER}\"
+        Return
+    ${EndIf}
+!macroend
+
+; Program Files is the administrators' own. Elsewhere others may write, and what they put beside the
+; program would run with the rights of whoever starts it: there the folder, with what is in it, is
+; made like one of Program Files. Disks that know no rights are left as they are.
+Function ProtectFolder
+    !insertmacro ReturnWhenBelow "$PROGRAMFILES64"
+    !insertmacro ReturnWhenBelow "$PROGRAMFILES32"
+    ; The groups by their numbers: their names are translated. Administrators, system, users.
+    !insertmacro RunTool 'icacls.exe" "$INSTDIR" /inheritance:r /grant:r \
+        *S-1-5-32-544:(OI)(CI)F *S-1-5-18:(OI)(CI)F *S-1-5-32-545:(OI)(CI)RX /Q'
+    ; Whoever owns a file may give himself its rights back.
+    !insertmacro RunTool 'icacls.exe" "$INSTDIR" /setowner *S-1-5-32-544 /T /C /Q'
+    !insertmacro RunTool 'icacls.exe" "$INSTDIR\*" /reset /T /C /Q'
+FunctionEnd
+
 !macro AbortOnErrors
     ${If} ${Errors}
         Abort
@@ -288,6 +325,10 @@ Section
 
     ; A file that cannot be written ends the section by itself.
     ClearErrors
+    CreateDirectory "$INSTDIR"
+    GetFullPathName $INSTDIR "$INSTDIR" ; without a way back up in it
+    !insertmacro AbortOnErrors
+    Call ProtectFolder
     !insertmacro EachFile LayDown
     SetOutPath "$INSTDIR"
     WriteUninstaller "$INSTDIR\Uninstall.exe"
@@ -308,6 +349,7 @@ Section
     WriteRegDWORD HKLM "${UNINSTALL_KEY}" NoRepair 1
     WriteRegStr HKLM "${UNINSTALL_KEY}" DisplayVersion "${VERSION}"
     !insertmacro AbortOnErrors
+    !insertmacro SetPortAside add
 SectionEnd
 
 ; Takes back what was laid down before the section ended in failure: half a program is none. Where an
@@ -357,7 +399,7 @@ Function un.onInit
 FunctionEnd
 
 ; Takes away the autostart entry of everybody who is signed in, where it names a program that is
-; gone. Entries of other copies stay.
+; gone, and that Task Manager has switched it off. Entries of other copies stay.
 Function un.RemoveAutostart
     StrCpy $0 0
     ${Do}
@@ -369,6 +411,7 @@ Function un.RemoveAutostart
         ${If} $2 != ""
         ${AndIfNot} ${FileExists} "$2"
             DeleteRegValue HKU "$1\${RUN_KEY}" "${NAME}"
+            DeleteRegValue HKU "$1\${VETO_KEY}" "${NAME}"
         ${EndIf}
         IntOp $0 $0 + 1
     ${Loop}
@@ -420,6 +463,7 @@ Section Uninstall
     ReadRegStr $FirstNewFolder HKLM "${UNINSTALL_KEY}" FirstNewFolder
     !insertmacro RemoveFolders
     DeleteRegKey HKLM "${UNINSTALL_KEY}"
+    !insertmacro SetPortAside delete
     Call un.RemoveAutostart
     Call un.OfferToRemoveSettings
     ${If} ${FileExists} "$INSTDIR\*.*"

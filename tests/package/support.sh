@@ -12,6 +12,7 @@ setup=$package/Lumikey-$version-setup.exe
 program_folder='C:\Program Files\Lumikey'
 uninstall_key='HKLM\Software\Microsoft\Windows\CurrentVersion\Uninstall\Lumikey'
 run_key='HKCU\Software\Microsoft\Windows\CurrentVersion\Run'
+veto_key='HKCU\Software\Microsoft\Windows\CurrentVersion\Explorer\StartupApproved\Run'
 
 failures=0
 finished=false
@@ -76,6 +77,8 @@ is_registered() { wine reg query "$uninstall_key" >/dev/null 2>&1; }
 
 set_autostart() { # path
     wine reg add "$run_key" /v Lumikey /d "$1" /f >/dev/null
+    # As Task Manager notes that it is switched off.
+    wine reg add "$veto_key" /v Lumikey /t REG_BINARY /d 030000000000000000000000 /f >/dev/null
 }
 
 # Runs an installer or uninstaller and leaves its exit code in $code.
@@ -133,6 +136,25 @@ answers_with_colours() { [[ $(answer) == *4026597205* ]]; }
 start_from_menu() {
     wine start 'C:\ProgramData\Microsoft\Windows\Start Menu\Programs\Lumikey.lnk'
 }
+
+# --- tools of Windows ------------------------------------------------------------------------------
+
+# stand_in NAME...: from now on, tools of the system folder only note how they were called.
+stand_in() {
+    local tool
+    export LUMIKEY_RECORD="Z:${scratch//\//\\}\\calls"
+    for tool in "$@"; do
+        cp "$root/build/windows/tests/support/recorder.exe" \
+            "$WINEPREFIX/drive_c/windows/system32/$tool.exe"
+        WINEDLLOVERRIDES+=";$tool.exe=n" # or Wine would run its own all the same
+    done
+}
+
+# The calls since the last question, a line each; those of one tool, where one is named.
+calls() {
+    cut -f 2- "$scratch/calls" 2>/dev/null | tr '\t' ' ' | grep "^${1:-}"
+}
+forget_calls() { rm -f "$scratch/calls"; }
 
 # --- looks at the whole prefix -------------------------------------------------------------------
 
