@@ -50,7 +50,7 @@ MainWindow::MainWindow(AppSettings appSettings, Platform &system, PrimaryRole &r
     QCoreApplication::instance()->installNativeEventFilter(&eventFilterForResume);
     connect(&eventFilterForResume, SIGNAL(emitawake()), this, SLOT(suspendresumeaction()));
     QCoreApplication::instance()->installNativeEventFilter(&unlockFilter);
-    connect(&unlockFilter, &UnlockFilter::unlocked, this, [this] { lastActivityMs = now(); });
+    connect(&unlockFilter, &UnlockFilter::unlocked, this, [this] { dim.lastActivity = now(); });
     dimTimer = new QTimer(this);
     connect(dimTimer, SIGNAL(timeout()), this, SLOT(timerDone()));
     auto *const brightnessTimer = new QTimer(this);

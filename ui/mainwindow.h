@@ -27,6 +27,7 @@ class Platform;
 class PrimaryRole;
 class QLineEdit;
 class ServiceServer;
+class TrayIcon;
 enum class ColourTarget;
 struct ColourTargetRow;
 struct DpiBand;
@@ -249,6 +250,7 @@ private:
     /// The window as a whole, see mainwindow_shell.cpp.
     struct Shell
     {
+        TrayIcon *trayIcon = nullptr;   ///< the window's child
         bool sizesAdapted = false;      ///< to the display's density
         bool askedFor = false;          ///< see wasAskedFor()
         bool closed = false;            ///< and with it the program

@@ -4,6 +4,7 @@
 #include "system/firmwarelibrary.h"
 #include "system/platform.h"
 #include "ui/messages.h"
+#include "ui/trayicon.h"
 
 #include <QDebug>
 
@@ -17,13 +18,13 @@ void MainWindow::requestadmin()
     // First, or the elevated copy would find this one running and leave.
     primaryRole.handOver();
     // The system keeps the icon of a process that ends without taking it away.
-    trayIcon->hide();
+    shell.trayIcon->hide();
     const Platform::Relaunch outcome = platform.relaunchElevated();
     if (outcome == Platform::Relaunch::Launched) {
         platform.endProcess(1);
         return;
     }
-    trayIcon->show();
+    shell.trayIcon->show();
     primaryRole.takeBack();
     if (outcome == Platform::Relaunch::Declined) {
         qDebug("User did not allow elevation");

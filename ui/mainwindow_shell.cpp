@@ -19,7 +19,7 @@
 
 void MainWindow::systemtraystart()
 {
-    new TrayIcon(this);
+    shell.trayIcon = new TrayIcon(this);
 }
 
 void MainWindow::show_hide(QSystemTrayIcon::ActivationReason reason)

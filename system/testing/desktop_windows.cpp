@@ -151,6 +151,10 @@ void Desktop::movePointer(const QPoint &to)
     sendMouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, 0,
               scaled(to.x(), ::GetSystemMetrics(SM_CXSCREEN)),
               scaled(to.y(), ::GetSystemMetrics(SM_CYSCREEN)));
+    // Under Wine the display tells the window of the move once more, a little later: a button that
+    // was pressed before would go down where the pointer was until then.
+    constexpr DWORD echoMs = 100;
+    ::Sleep(echoMs);
 }
 
 void Desktop::pressButton(Button button)

@@ -216,7 +216,9 @@ void TestBranding::buttons()
         QCOMPARE(seen(button.constData()),
                  vendorsColour((QByteArray(name) + "_focus").constData()));
     }
-    QCOMPARE(seen("colorpick1"), vendorsColour("colorpick"));
+    // Above the hub, which shows the colour of the zone whatever the wheel looks like.
+    const QPoint aboveHub(0, -twin->get<QWidget>("colorpick1")->height() * 3 / 8);
+    QCOMPARE(seen("colorpick1", aboveHub), vendorsColour("colorpick"));
 }
 
 void TestBranding::previews()

@@ -122,8 +122,9 @@ void TestProgram::keysMoveTheSlider()
     ServiceClient::readLine();
     ServiceClient::readLine();
 
-    Desktop::press({QStringLiteral("Down")});     // for nobody: no control has the focus yet
+    Desktop::press({QStringLiteral("Down")});           // for nobody: no control has the focus yet
     ProgramWindow::click(onScreen("horizontalSlider")); // takes it
+    QTRY_COMPARE(ProgramProcess::stored("brightlevel"), QStringLiteral("50"));
     Desktop::press({QStringLiteral("Home")});
     QTRY_COMPARE(ProgramProcess::stored("brightlevel"), QStringLiteral("0"));
     QCOMPARE(ServiceClient::readLine(), Lines::off);

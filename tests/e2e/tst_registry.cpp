@@ -49,8 +49,8 @@ void TestRegistry::installation()
     standIns.add(QStringLiteral("regsvr32"));
     writeFile(QStringLiteral("installer/CLEVOMOF.dll"), "library");
     const std::unique_ptr<Platform> system = createPlatform();
-    MainWindow window(world.settings, *system, world.primaryRole,
-                      QDateTime::currentMSecsSinceEpoch, ServiceEndpoint());
+    MainWindow window(world.settings, *system, world.primaryRole, QDateTime::currentMSecsSinceEpoch,
+                      ServiceEndpoint());
     const BoxWatcher watcher(QMessageBox::Yes);
     QVERIFY(QMetaObject::invokeMethod(&window, "installmof"));
 
@@ -83,8 +83,8 @@ void TestRegistry::vetoOfTheTaskManager()
     vetoes.sync();
     const std::unique_ptr<Platform> system = createPlatform();
     TestWindow world;
-    MainWindow window(world.settings, *system, world.primaryRole,
-                      QDateTime::currentMSecsSinceEpoch, ServiceEndpoint());
+    MainWindow window(world.settings, *system, world.primaryRole, QDateTime::currentMSecsSinceEpoch,
+                      ServiceEndpoint());
     auto *const box = widget<QCheckBox>(window, "Check_StartwithWindows");
     QVERIFY(!box->isChecked());
     vetoes.sync();

@@ -189,7 +189,7 @@ void TestSingleInstance::secondStart()
     QVERIFY(second.leaves());
     QVERIFY(eventually(inFront));
     // The button that was clicked has lost the focus, so a key does not minimise the window again.
-    ProgramWindow::press({QStringLiteral("space")});
+    Desktop::press({QStringLiteral("space")});
     QTest::qWait(200);
     QVERIFY(inFront());
     QCOMPARE(shownWindows(), 1);

@@ -97,8 +97,12 @@ void TestTroubledFiles::liveThrough(const Trouble &trouble, bool stillThere)
     if (QTest::currentTestFailed()) {
         return; // at the start
     }
-    const QByteArray before = readFile(ProgramProcess::settingsFile());
-    QVERIFY(before.contains("backlight_on=true"));
+    QByteArray before;
+    const auto isWhole = [&before] { // between two writes
+        before = readFile(ProgramProcess::settingsFile());
+        return before.contains("backlight_on=true");
+    };
+    QVERIFY(QTest::qWaitFor(isWhole));
     trouble.begin();
     for (int round = 0; round < 2; ++round) {
         twin->click("backlight_off");

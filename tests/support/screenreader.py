@@ -13,7 +13,7 @@ import time
 import gi
 
 gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi  # noqa: E402
+from gi.repository import Atspi, GLib  # noqa: E402
 
 BUS_LAUNCHER = "/usr/libexec/at-spi-bus-launcher"
 COMBO_BOX, LABEL, PAGE_TAB = "combo box", "label", "page tab"
@@ -118,6 +118,39 @@ class Control:
 
     def __repr__(self):
         return f"{self.role} {self.name!r}"
+
+
+class Announcements:
+    """What programs tell by themselves of their controls, as (name, what): "accessible-value" and
+    "accessible-description"."""
+
+    KINDS = ("accessible-value", "accessible-description")
+
+    def __init__(self):
+        self.heard = []
+        self._listener = Atspi.EventListener.new(self._hear)
+        for kind in self.KINDS:
+            self._listener.register(f"object:property-change:{kind}")
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        for kind in self.KINDS:
+            self._listener.deregister(f"object:property-change:{kind}")
+
+    def _hear(self, event):
+        self.heard.append((event.source.get_name(), event.type.rsplit(":", 1)[1]))
+
+    def come(self, *wanted):
+        """Whether all of them have been told since the last forget()."""
+        while GLib.MainContext.default().iteration(False):
+            pass
+        return set(wanted) <= set(self.heard)
+
+    def forget(self):
+        self.come()  # also what is still under way
+        self.heard.clear()
 
 
 class Program:

@@ -86,9 +86,8 @@ void TestStartup::planOnOtherSystems_data()
     QTest::newRow("folder whose name begins alike, system folder")
         << QStringLiteral("/opt/Lumikey-1.0.4/Lumikey") << QStringLiteral("/mnt/Windows")
         << QStringLiteral("/opt/Lumikey-1.0.4/") << unchanged;
-    QTest::newRow("name that ends alike")
-        << QStringLiteral("/opt/NotLumikey") << QStringLiteral("/srv/tools") << unchanged
-        << unchanged;
+    QTest::newRow("name that ends alike") << QStringLiteral("/opt/NotLumikey")
+                                          << QStringLiteral("/srv/tools") << unchanged << unchanged;
     QTest::newRow("another program in such a folder")
         << QStringLiteral("/opt/Lumikey/other") << QStringLiteral("/srv/tools") << unchanged
         << unchanged;
