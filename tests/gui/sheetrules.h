@@ -18,7 +18,13 @@ inline constexpr std::array sheetRules{
               "none; padding: 0px;"},
     SheetRule{"#colorpick1, #colorpick2, #colorpick3, #colorpick4, #colorpick5, "
               "#colorpick5_3",
-              "border-image: url(branding/colorpick.png);"},
+              "border-image: url(branding/colorpick.png); border-radius: 3px;"},
+    SheetRule{"#colorpick1:hover, #colorpick2:hover, #colorpick3:hover, #colorpick4:hover, "
+              "#colorpick5:hover, #colorpick5_3:hover",
+              "background-color: rgba(255, 255, 255, 50);"},
+    SheetRule{"#colorpick1:pressed, #colorpick2:pressed, #colorpick3:pressed, "
+              "#colorpick4:pressed, #colorpick5:pressed, #colorpick5_3:pressed",
+              "background-color: #1e1e1e; margin: 2px;"},
     SheetRule{"#colorpick1:disabled, #colorpick2:disabled, #colorpick3:disabled, "
               "#colorpick4:disabled, #colorpick5:disabled, #colorpick5_3:disabled",
               "border-image: url(:/darkstyle/icon_colorpick_disabled.png);"},
@@ -40,7 +46,10 @@ inline constexpr std::array sheetRules{
               "outline: 2px solid #ffffff;"},
     // Windows.
     SheetRule{"QMainWindow", "border: 1px solid #272727;"},
-    SheetRule{"QMessageBox", "border: 2px solid #212121;"},
+    SheetRule{"QMessageBox", "border: 2px solid #212121; "
+                             "messagebox-information-icon: url(:/darkstyle/icon_information.png); "
+                             "messagebox-question-icon: url(:/darkstyle/icon_question.png);"},
+    SheetRule{"QDialogButtonBox QPushButton", "min-width: 4em;"},
     SheetRule{"QDialogButtonBox", "dialogbuttonbox-buttons-have-icons: 0;"},
     SheetRule{"QMainWindow::separator", "width: 5px; height: 5px; background: transparent;"},
     SheetRule{"QMainWindow::separator:hover", "background: palette(highlight);"},
@@ -61,6 +70,9 @@ inline constexpr std::array sheetRules{
     SheetRule{"QPushButton:pressed",
               "background-color: #2a2a2a; border-color: palette(highlight);"},
     SheetRule{"QPushButton:focus, QComboBox:focus, QLineEdit:focus", "border: 2px solid #ffffff;"},
+    // The picker's primary button.
+    SheetRule{"#pushButton", "border: 2px solid palette(highlight); font-weight: bold;"},
+    SheetRule{"#pushButton:focus", "border-color: #ffffff;"},
     SheetRule{"QPushButton:disabled, QComboBox:disabled",
               "color: #b0b0b0; background-color: #353535; border-color: #4a4a4a;"},
     SheetRule{"QComboBox", "combobox-popup: 0;"},
@@ -74,13 +86,18 @@ inline constexpr std::array sheetRules{
               "color: #ffffff; background-color: #2a2a2a; border: 1px solid #848484; "
               "selection-color: #ffffff; selection-background-color: "
               "palette(highlight); outline: none;"},
+    SheetRule{"QComboBox QAbstractItemView::item",
+              "min-height: 2em; padding: 0px 0.4em; border: none;"},
+    SheetRule{"QComboBox QAbstractItemView::item:selected",
+              "background-color: palette(highlight);"},
     SheetRule{"QLineEdit", "color: #ffffff; background-color: #2a2a2a; border: 1px solid #848484; "
                            "border-radius: 3px; padding: 0.1em 0.3em; selection-color: #ffffff; "
                            "selection-background-color: palette(highlight);"},
     SheetRule{"QLineEdit:disabled", "color: #b0b0b0; border-color: #4a4a4a;"},
+    SheetRule{"#pushButton_3", "margin-left: 3px;"},
     // Check boxes and radio buttons.
     SheetRule{"QCheckBox, QRadioButton",
-              "spacing: 0.3em; padding: 0px 2px; border: 1px solid transparent;"},
+              "spacing: 0.3em; padding: 0px 2px; border: 1px solid transparent; outline: none;"},
     SheetRule{"QCheckBox:focus, QRadioButton:focus",
               "border: 1px solid #ffffff; border-radius: 3px;"},
     SheetRule{"QLabel:disabled, QCheckBox:disabled, QRadioButton:disabled", "color: #b0b0b0;"},
