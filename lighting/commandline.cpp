@@ -20,7 +20,7 @@ QString normalLine(const LightingState &state)
         .join(QLatin1Char(','));
 }
 
-/// The first of two wake lines arms the second, whichever line carried it out.
+/// A wake is sent twice: once the first has gone out, with any kind of line, the second is due.
 WakeSequence afterSending(WakeSequence wake)
 {
     if (wake.wakeSent) {

@@ -55,8 +55,9 @@ void ServiceServer::incomingConnection(qintptr socketDescriptor)
 
 void ServiceServer::acceptAgain(QAbstractSocket::SocketError error)
 {
-    // Qt stops accepting at the first failure, be it one client that left too early, and from then
-    // on tells of that failure whenever the queue is empty.
+    // Qt stops accepting at the first failure, be it one client that left too early. From then on
+    // it also reports that old failure each time the queue has been emptied, so a report right
+    // after a client was accepted is no news: it is neither logged nor waited for.
     const bool isNews = !std::exchange(clientAccepted, false);
     const bool again = isNews && std::exchange(acceptingFailed, true);
     if (isNews && !again) {

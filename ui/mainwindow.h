@@ -140,8 +140,8 @@ public slots:
     /// @return non-zero when the process has administrator rights
     /// @throws quint32 the system's error code, when that cannot be told; nobody catches it
     BOOL IsAppRunningAsAdminMode();
-    /// Starts the program again with administrator rights and ends this process; goes on where that
-    /// fails.
+    /// Starts the program again with administrator rights and ends this process. Returns, and the
+    /// program runs on without them, when that fails.
     void requestadmin();
     /// Asks, then installs and registers the library that describes the firmware's interface. No
     /// step's outcome is looked at. Blocks for up to a minute and a half.
@@ -197,10 +197,10 @@ private:
     void closePicker();
     void leaveTextField(bool forward);
     void showNoColour();
-    /// Hands a field's text to one of the processor's two readers of texts.
+    /// Hands a field's text to the processor's reader of RGB texts or to that of HEX texts.
     void takeText(QLineEdit &field, QColor (ColorProcessor::*set)(const QString &));
-    /// Lays out what depends on the font alone: columns that begin on one line, the picker's that
-    /// end on one. Once, and before the sizes are adapted.
+    /// Lays out what depends on the font alone: columns whose left edges agree, and the picker's
+    /// whose lower edges do. Once, and before the sizes are adapted.
     void alignColumns();
     void enlargeForBand(const DpiBand &band);
     void updateIdleTime();
@@ -241,8 +241,8 @@ private:
     struct VersionCheck
     {
         bool waiting = false; ///< for the server's answer
-        /// The user has asked for it and wants to hear of no update, too. Stays set when there is
-        /// one, on purpose.
+        /// The user has asked for it, and is told also when there is no update. On purpose not
+        /// taken back when there is one: the answer then comes in a box of its own.
         bool byHand = false;
     };
     VersionCheck versionCheck;
