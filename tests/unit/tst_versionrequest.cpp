@@ -85,13 +85,14 @@ void TestVersionRequest::proxy_data()
     row("socks", "socks5://proxy.example", "", "socks proxy.example 1080");
     row("blanks", "  ", "", "direct");
     row("nonsense", "http://", "", "direct");
-    row("another host excepted", "p:1", "localhost, other.example", "http p 1");
-    row("host excepted", "p:1", "localhost, Update.There.example", "direct");
-    row("domain excepted", "p:1", "there.example", "direct");
-    row("domain with a dot", "p:1", ".there.example", "direct");
-    row("end of a name", "p:1", "here.example", "http p 1");
-    row("all excepted", "p:1", "*", "direct");
-    row("empty exceptions", "p:1", ",,", "http p 1");
+    row("another host excepted", "proxy.example:1", "localhost, other.example",
+        "http proxy.example 1");
+    row("host excepted", "proxy.example:1", "localhost, Update.There.example", "direct");
+    row("domain excepted", "proxy.example:1", "there.example", "direct");
+    row("domain with a dot", "proxy.example:1", ".there.example", "direct");
+    row("end of a name", "proxy.example:1", "here.example", "http proxy.example 1");
+    row("all excepted", "proxy.example:1", "*", "direct");
+    row("empty exceptions", "proxy.example:1", ",,", "http proxy.example 1");
 }
 
 void TestVersionRequest::proxy()
