@@ -39,6 +39,9 @@ enum class Button {
 void pressButton(Button button);
 void releaseButton(Button button);
 
+/// Moves there and presses and releases the left button.
+void click(const QPoint &at);
+
 /// One notch of the wheel, away from the user or towards them.
 void turnWheel(bool away);
 

@@ -106,6 +106,13 @@ void Desktop::releaseButton(Button button)
     xdotool("mouseup", {buttonNumber(button)});
 }
 
+void Desktop::click(const QPoint &at)
+{
+    // In one command, or the button would be held for as long as a process takes to start.
+    xdotool("mousemove", {QString::number(at.x()), QString::number(at.y()), QStringLiteral("click"),
+                          QStringLiteral("1")});
+}
+
 void Desktop::turnWheel(bool away)
 {
     xdotool("click", {away ? QStringLiteral("4") : QStringLiteral("5")});
@@ -113,5 +120,5 @@ void Desktop::turnWheel(bool away)
 
 void Desktop::press(const QStringList &keys)
 {
-    xdotool("key", QStringList{QStringLiteral("--delay"), QStringLiteral("1")} + keys);
+    xdotool("key", keys);
 }

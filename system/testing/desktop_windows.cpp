@@ -171,6 +171,13 @@ void Desktop::releaseButton(Button button)
                                          : MOUSEEVENTF_RIGHTUP);
 }
 
+void Desktop::click(const QPoint &at)
+{
+    movePointer(at);
+    pressButton(Button::Left);
+    releaseButton(Button::Left);
+}
+
 void Desktop::turnWheel(bool away)
 {
     sendMouse(MOUSEEVENTF_WHEEL, static_cast<DWORD>(away ? WHEEL_DELTA : -WHEEL_DELTA));

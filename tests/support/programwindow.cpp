@@ -24,9 +24,7 @@ QImage ProgramWindow::picture()
 
 void ProgramWindow::click(const QPoint &onScreen)
 {
-    Desktop::movePointer(onScreen);
-    Desktop::pressButton(Desktop::Button::Left);
-    Desktop::releaseButton(Desktop::Button::Left);
+    Desktop::click(onScreen);
 }
 
 void ProgramWindow::drag(const QPoint &from, const QPoint &to)

@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 std::unique_ptr<SmallDisk> SmallDisk::underTheSettings()
 {
@@ -17,7 +18,8 @@ std::unique_ptr<SmallDisk> SmallDisk::underTheSettings()
 }
 
 SmallDisk::SmallDisk(const QString &mountPoint)
-    : disk(QDir(mountPoint).absolutePath())
+    // With its drive, where there are drives: a test may move to another one.
+    : disk(QFileInfo(mountPoint).absoluteFilePath())
     , documents(TestSystem::moveDocuments(disk))
 {
     clear(); // of what a test has left that was ended in the middle
