@@ -56,7 +56,7 @@ def run(command):
 
 def check_settings(root, folder):
     """Ends where clang-tidy cannot read its settings, or would find nothing with them."""
-    code, said = run(["clang-tidy", "--dump-config", f"{root}/app/main.cpp"])
+    code, said = run(tidy(folder, "--dump-config", f"{root}/app/main.cpp"))
     if code != 0 or "error" in said.split("---")[0].lower():
         sys.exit(f"clang-tidy does not understand its settings:\n{said.split('---')[0]}")
     # Under a folder whose settings are the checkout's.

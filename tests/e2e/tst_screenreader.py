@@ -3,7 +3,6 @@
 import pathlib
 import socket
 import sys
-import time
 import unittest
 
 sys.dont_write_bytecode = True
@@ -14,7 +13,7 @@ EXECUTABLE = sys.argv.pop(1)
 SETTINGS = ("backlight_on=true\nbrightlevel=100\nP751LEDStripe=true\nZone1Color=255 0 0\n"
             "Zone2Color=0 255 0\nZone3Color=0 0 255\nStripeLid=128 0 0\n")
 OFF = "3758108672,3758108672,3758108672,3758108672,0"
-SETTLED_AFTER_SECONDS = 1.5  # settings are applied a second after the start
+CENTRE_WORD = str(0xF10000FF)  # of the settings above
 
 RADIO, BUTTON, CHECK, SLIDER = "radio button", "push button", "check box", "slider"
 IMAGE, TEXT, CHOOSER = "image", "text", "color chooser"
@@ -42,7 +41,11 @@ OPERABLE = (BUTTON, RADIO, CHECK, SLIDER, TEXT, CHOOSER, COMBO_BOX, PAGE_TAB)
 
 def answer():
     """The command line that an agent receives."""
-    with socket.create_connection(("127.0.0.9", 52316), timeout=5) as client:
+    try:
+        client = socket.create_connection(("127.0.0.9", 52316), timeout=5)
+    except ConnectionRefusedError:  # it is not up yet
+        return ",,"
+    with client:
         received = b""
         while piece := client.recv(4096):
             received += piece
@@ -53,7 +56,8 @@ class ScreenReader(unittest.TestCase):
     def setUp(self):
         self.program = Program(EXECUTABLE, SETTINGS)
         self.addCleanup(self.program.end)
-        time.sleep(SETTLED_AFTER_SECONDS)
+        # The settings are applied a second after the start, and two answers wake the keyboard.
+        wait_for(lambda: answer().split(",")[1] == CENTRE_WORD, "the settings to be applied")
 
     def find(self, role, name):
         return self.program.find(role, name)
@@ -97,7 +101,6 @@ class ScreenReader(unittest.TestCase):
         self.assertEqual(slider.value, 40)
 
     def test_a_colour_is_applied(self):
-        answer(), answer()  # the two that wake the keyboard
         self.find(BUTTON, "Center zone color").press()
         self.find(LABEL, "Select Center Keyboard Zone Color:")
         hue = self.find(SLIDER, "Hue")
