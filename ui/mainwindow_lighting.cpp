@@ -199,6 +199,13 @@ void MainWindow::on_Combo_Effect_currentIndexChanged(int index)
 
 void MainWindow::showEffect(bool chosen)
 {
+    // From the rows of the pictures down to the ends, so that they are in the middle: what is above
+    // those rows the sheet takes off below. Not while they are hidden: they would hold rows open.
+    const int rows = chosen ? -1 : 1;
+    ui->gridLayout_13->removeWidget(ui->label_14);
+    ui->gridLayout_13->addWidget(ui->label_14, 1, 0, rows, 1);
+    ui->gridLayout_6->removeWidget(ui->label_16);
+    ui->gridLayout_6->addWidget(ui->label_16, 1, 1, rows, 1);
     ui->label_14->setVisible(chosen);
     ui->label_16->setVisible(chosen);
     const std::initializer_list<QWidget *> colourWidgets{

@@ -44,6 +44,7 @@ inline constexpr std::array sheetRules{
               "#colorpick4:focus, #colorpick5:focus, #colorpick5_3:focus, "
               "#minimizeButton:focus, #closeButton:focus",
               "outline: 2px solid #ffffff;"},
+    SheetRule{"#label_14, #label_16", "padding-bottom: 18px;"},
     // Windows.
     SheetRule{"QMainWindow", "border: 1px solid #272727;"},
     SheetRule{"QMessageBox", "border: 2px solid #212121; "
