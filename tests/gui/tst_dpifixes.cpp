@@ -349,11 +349,9 @@ void TestDpiFixes::pickerAtTheTop()
     QCOMPARE(top(world->get<QWidget>("svSelector")), top(strip));
     QCOMPARE(top(world->get<QWidget>("leRGB")), top(strip));
     QCOMPARE(bottom(world->get<QWidget>("colorSample")), bottom(strip));
-    // The buttons end there, too, unless none of them can be lower.
-    const QWidget *const apply = world->get<QWidget>("pushButton");
-    const int last = bottom(apply);
-    const bool crowded =
-        apply->height() <= std::max(apply->minimumHeight(), apply->minimumSizeHint().height());
+    // The buttons end there, too. In the larger bands they may need more, by the system's font.
+    const int last = bottom(world->get<QWidget>("pushButton"));
+    const bool crowded = expected().secondControls >= 38;
     QVERIFY2(last == bottom(strip) || (crowded && last > bottom(strip)),
              qPrintable(QStringLiteral("%1, strip %2").arg(last).arg(bottom(strip))));
 }
