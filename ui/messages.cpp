@@ -28,7 +28,8 @@ protected:
     bool event(QEvent *event) override
     {
         if (fitted && event->type() == QEvent::LayoutRequest) {
-            return QDialog::event(event); // the base's answer would be its own width
+            // Past the base on purpose: its answer would be its own width.
+            return QDialog::event(event); // NOLINT(bugprone-parent-virtual-call)
         }
         return QMessageBox::event(event);
     }
