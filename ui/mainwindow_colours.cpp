@@ -42,10 +42,11 @@ void MainWindow::connectColourPicker()
              ui->pushButton, ui->pushButton_2}) {
         picker.input.watch(*button);
     }
-    // A number that is missing keeps its place only for who is about to type it.
-    connect(ui->leRGB, &QLineEdit::editingFinished, this, [this] {
-        if (!ui->leRGB->hasFocus()) {
-            ui->leRGB->setText(Services::normalize(ui->leRGB->text()));
+    // A number that is missing keeps its place only for who is about to type it. A field that is
+    // left because the window goes finds no window any more, so it is asked by itself.
+    connect(ui->leRGB, &QLineEdit::editingFinished, ui->leRGB, [field = ui->leRGB] {
+        if (!field->hasFocus()) {
+            field->setText(Services::normalize(field->text()));
         }
     });
     // The fields keep Tab for themselves, so these are the keyboard's ways out of them.

@@ -45,6 +45,7 @@ private slots:
     void pasting();
     void pastingNothing();
     void selectField();
+    void windowGoesWhileTyping();
     void zoneWithoutAColourIsBlack();
     void basicColorChosenTwice_data();
     void basicColorChosenTwice();
@@ -362,6 +363,22 @@ void TestPicker::selectField()
     world.window->selectField(field);
     QVERIFY(field->hasFocus());
     QCOMPARE(field->selectedText(), QStringLiteral("255 0 0"));
+}
+
+void TestPicker::windowGoesWhileTyping()
+{
+    TestWindow world;
+    open(world, "colorpick1", "Zone1Color=255 0 0\n");
+    world.window->show();
+    QVERIFY(QTest::qWaitForWindowActive(world.window.get()));
+    auto *const field = world.get<QLineEdit>("leRGB");
+    field->setFocus();
+    QVERIFY(field->hasFocus());
+    // The field tells of its end as usual, while hardly anything is left of the window.
+    bool told = false;
+    connect(field, &QLineEdit::editingFinished, field, [&told] { told = true; });
+    world.window.reset();
+    QVERIFY(told);
 }
 
 void TestPicker::zoneWithoutAColourIsBlack()
