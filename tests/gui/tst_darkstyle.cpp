@@ -362,7 +362,7 @@ void TestDarkStyle::polishWithoutApplication()
     QCOMPARE(QApplication::font(), font);
 }
 
-int main(int argc, char *argv[])
+int main(int argc, char **argv)
 {
     QApplication app(argc, argv);
     if (app.arguments().contains(QLatin1String(firstStyleWins))) {

@@ -365,7 +365,7 @@ void TestDpiFixes::columnsBeginOnCommonLines()
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     const auto lineOf = [&](const char *name) {
-        QWidget *const item = world->get<QWidget>(name);
+        auto *const item = world->get<QWidget>(name);
         int inside = 0;
         QStyleOptionButton option;
         option.initFrom(item);
@@ -510,7 +510,7 @@ void TestDpiFixes::updateAtStartShowsEverything()
 }
 
 // Unlike QTEST_MAIN, leaves the style's own lengths to the DPI.
-int main(int argc, char *argv[])
+int main(int argc, char **argv)
 {
     const QApplication application(argc, argv);
     TestDpiFixes test;

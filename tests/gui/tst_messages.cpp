@@ -205,8 +205,8 @@ void TestMessages::iconsAreOurs()
                 qAbs(shown.pixelColor(x, y).lightness() - ours.pixelColor(x, y).lightness());
         }
     }
-    QVERIFY2(difference / (shown.width() * shown.height()) < 8,
-             qPrintable(QString::number(difference)));
+    const qint64 pixels = qint64{shown.width()} * shown.height();
+    QVERIFY2(difference / pixels < 8, qPrintable(QString::number(difference)));
 }
 
 void TestMessages::noLineHasOneWord_data()
