@@ -115,7 +115,7 @@ void TestCompanionProgram::hangingCompanionHoldsNobodyUp()
         QElapsedTimer answer;
         answer.start();
         QVERIFY(ServiceClient::readLine().endsWith(QStringLiteral(",4076863488,0")));
-        QVERIFY2(answer.elapsed() < 1000, qPrintable(QString::number(answer.elapsed())));
+        QVERIFY2(answer.elapsed() < 3000, qPrintable(QString::number(answer.elapsed())));
         QTest::qWait(50);
     }
     QVERIFY(companion.unlock());

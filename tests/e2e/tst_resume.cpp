@@ -15,8 +15,11 @@ constexpr const char *ping = "PING PBT_APMRESUMESUSPEND";
 constexpr qint64 settlingMs = 10'000;
 /// From the end of the settling until the settings are applied again.
 constexpr qint64 reloadMs = 2000;
-/// A busy machine is late, never early.
-constexpr qint64 lateness = 1500;
+/// A busy machine is late, never early: what must not be too early is measured from before its
+/// cause to after its effect. Half of what a second settling would take.
+constexpr qint64 lateness = 5000;
+/// Timers of this kind keep their times to a twentieth.
+constexpr qint64 earliness = 200;
 
 } // namespace
 
@@ -65,23 +68,23 @@ void TestResume::timeline()
 {
     startWithColours(Lines::threeZonesSettings);
     for (int resume = 1; resume <= 2; ++resume) { // the later one is a new one
+        QElapsedTimer sinceResume;
+        sinceResume.start();
         sleep->resume(SleepNotices::Delivery::Told);
         QTRY_COMPARE(pings(), resume);
-        QElapsedTimer sincePing;
-        sincePing.start();
 
         // Whoever asks meanwhile waits for the settling, and finds the keyboard to be woken.
         QCOMPARE(ServiceClient::lineOf(ServiceClient::readAnswer(15'000)), Lines::wake);
-        const qint64 settled = sincePing.elapsed();
-        QVERIFY2(settled > settlingMs - 500, qPrintable(QString::number(settled)));
+        const qint64 settled = sinceResume.elapsed();
+        QVERIFY2(settled > settlingMs - earliness, qPrintable(QString::number(settled)));
         QVERIFY2(settled < settlingMs + lateness, qPrintable(QString::number(settled)));
         QCOMPARE(ServiceClient::readLine(), Lines::wake);
         QCOMPARE(ServiceClient::readLine(), blackLine);
-        QVERIFY(sincePing.elapsed() < settled + 500); // nothing settled a second time
 
         QTRY_COMPARE_WITH_TIMEOUT(ServiceClient::readLine(), Lines::threeZones, 6000);
-        const qint64 restored = sincePing.elapsed();
-        QVERIFY2(restored > settlingMs + reloadMs - 500, qPrintable(QString::number(restored)));
+        const qint64 restored = sinceResume.elapsed();
+        QVERIFY2(restored > settlingMs + reloadMs - earliness,
+                 qPrintable(QString::number(restored)));
         QVERIFY2(restored < settlingMs + reloadMs + lateness,
                  qPrintable(QString::number(restored)));
         QCOMPARE(pings(), resume);
@@ -120,13 +123,13 @@ void TestResume::oneResumeSettlesOnce()
 void TestResume::hiddenAndOff()
 {
     startWithColours("start_hidden=1\nbacklight_on=false\nbrightlevel=100\n", Lines::off);
+    QElapsedTimer sinceResume;
+    sinceResume.start();
     sleep->resume(SleepNotices::Delivery::Told);
     QTRY_COMPARE(pings(), 1);
-    QElapsedTimer sincePing;
-    sincePing.start();
     QCOMPARE(ServiceClient::lineOf(ServiceClient::readAnswer(15'000)), Lines::off);
-    QVERIFY(sincePing.elapsed() > settlingMs - 500);
-    while (sincePing.elapsed() < settlingMs + reloadMs + lateness) {
+    QVERIFY(sinceResume.elapsed() > settlingMs - earliness);
+    while (sinceResume.elapsed() < settlingMs + reloadMs + 1500) {
         QCOMPARE(ServiceClient::readLine(), Lines::off); // no wake line
         QTest::qWait(50);
     }

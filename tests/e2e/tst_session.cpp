@@ -24,10 +24,13 @@ class TestSession : public QObject
 private slots:
     void init();
     void cancelledLogOff();
+    void logOff_data();
     void logOff();
     void unlockingWakes();
 
 private:
+    void start(const QByteArray &moreSettings = {});
+
     std::unique_ptr<ProgramProcess> program;
     quintptr window = 0;
 };
@@ -35,13 +38,19 @@ private:
 void TestSession::init()
 {
     program = std::make_unique<ProgramProcess>();
-    ProgramProcess::writeSettings("backlight_on=true\nbrightlevel=4\nAutoDim=true\ndimtimer=0\n");
+}
+
+void TestSession::start(const QByteArray &moreSettings)
+{
+    ProgramProcess::writeSettings("backlight_on=true\nbrightlevel=4\nAutoDim=true\ndimtimer=0\n"
+                                  + moreSettings);
     QVERIFY(program->startAndServe());
     QTRY_VERIFY((window = TaskBar::windowOf(program->process.processId())) != 0);
 }
 
 void TestSession::cancelledLogOff()
 {
+    start();
     QVERIFY(SessionNotices::mayEnd(window));
     SessionNotices::ends(window, false);
     QTest::qWait(1000);
@@ -51,8 +60,17 @@ void TestSession::cancelledLogOff()
     QCOMPARE(ProgramProcess::stored("mainWindowGeometry"), QStringLiteral("(none)"));
 }
 
+void TestSession::logOff_data()
+{
+    QTest::addColumn<QByteArray>("settings");
+    QTest::newRow("closing ends the program") << QByteArray();
+    QTest::newRow("closing hides the window") << QByteArray("minimize_close=1\n");
+}
+
 void TestSession::logOff()
 {
+    QFETCH(QByteArray, settings);
+    start(settings);
     QVERIFY(SessionNotices::mayEnd(window));
     SessionNotices::ends(window, true);
     QTRY_COMPARE(program->process.state(), QProcess::NotRunning);
@@ -62,6 +80,7 @@ void TestSession::logOff()
 
 void TestSession::unlockingWakes()
 {
+    start();
     QTest::qWait(Lines::appliedAfterMs); // before, it is as dark as when it is dimmed
     QVERIFY(lineComes(Lines::wake));
     QVERIFY(lineComes(Lines::off, 30'000));

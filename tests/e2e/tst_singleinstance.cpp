@@ -370,9 +370,13 @@ void TestSingleInstance::strangers()
 
     QTRY_COMPARE(ServiceClient::readLine(), Lines::off);
     QCOMPARE(shownWindows(), 0);
-    const auto genuine = InstanceSocket::connect();
-    genuine->write(message);
-    QVERIFY(eventually([&] { return shownWindows() == 1; }));
+    // One whom a busy machine holds up before it can speak is dropped like the silent one.
+    QVERIFY(eventually([&] {
+        const auto genuine = InstanceSocket::connect();
+        genuine->write(message);
+        genuine->flush();
+        return QTest::qWaitFor([] { return shownWindows() == 1; }, 2000);
+    }));
 }
 
 QTEST_MAIN(TestSingleInstance)

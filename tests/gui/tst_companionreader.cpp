@@ -11,8 +11,8 @@
 namespace {
 
 constexpr const char *cannotAttach = "Can\u00B4t attach to memory segment";
-/// Longer than any copy on a busy machine, shorter than any wait for another process.
-constexpr qint64 noWaitMs = 500;
+/// Longer than any tick on a busy machine, and no wait for another process ends by then.
+constexpr qint64 noWaitMs = 3000;
 
 } // namespace
 

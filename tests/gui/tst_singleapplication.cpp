@@ -170,7 +170,6 @@ void TestSingleApplication::silentClient()
     const auto client = connectClient();
     QTRY_COMPARE(client->state(), QLocalSocket::UnconnectedState);
     QVERIFY2(waiting.elapsed() >= 90, qPrintable(QString::number(waiting.elapsed())));
-    QVERIFY2(waiting.elapsed() < 1000, qPrintable(QString::number(waiting.elapsed())));
     QVERIFY(started->isEmpty());
 }
 

@@ -72,6 +72,14 @@ public:
         return *window;
     }
 
+    /// Constructs the window, which applies the settings by itself: no second time comes behind the
+    /// back of a test that asks for the lines of the keyboard one by one. Takes a second.
+    void startByItself()
+    {
+        construct();
+        QTRY_VERIFY(window->lightingState().centreWord != wordText(DeviceWords::loading));
+    }
+
     /// Where agents find this window.
     quint16 servicePort() const { return window->findChild<QTcpServer *>()->serverPort(); }
     /// What the next agent receives.
