@@ -243,7 +243,7 @@ void TestAbuse::addressMissing()
 {
     program->launcher = TestSystem::commandWithoutNetwork();
     if (program->launcher.isEmpty()) {
-        QSKIP("this system lends no network without addresses");
+        QSKIP("Windows takes no addresses away from one program");
     }
     ProgramProcess::writeSettings(Lines::threeZonesSettings);
     QVERIFY(program->start());
