@@ -11,6 +11,7 @@
 #include <QImage>
 #include <QTcpServer>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <memory>
 
