@@ -32,7 +32,8 @@ as_root() {
 }
 
 # lock NAME: waits until no other script has the lock of that name, and keeps it until unlock. Scripts
-# that run beside each other share the packages and the build folders.
+# that run beside each other share the packages, the build folders and the processors: one at a time
+# computes ("building") and one runs tests ("testing"), which wait more than they compute.
 lock() {
     mkdir -p "$root/build"
     exec {lock_file}>"$root/build/.$1.lock"
@@ -40,6 +41,7 @@ lock() {
 }
 
 unlock() {
+    flock --unlock "$lock_file" # also where somebody who was started meanwhile lives on
     exec {lock_file}>&-
 }
 
@@ -67,7 +69,7 @@ build() {
     shift
     step "Building ($preset)"
     cd "$root"
-    lock "$preset"
+    lock building
     cmake --preset "$preset" >"$root/build/$preset.log" 2>&1 \
         || { cat "$root/build/$preset.log"; exit 1; }
     rm -f "$root/build/$preset.log"

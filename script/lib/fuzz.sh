@@ -17,7 +17,7 @@ fuzz_one() {
     fi
     mkdir -p "$found" "$corpus" "$scratch/tmp-$target"
     # TMPDIR, because the fuzzers never end in a way that lets them tidy up.
-    TMPDIR=$scratch/tmp-$target "${apart[@]}" "$root/build/fuzz/fuzz/fuzz_$target" \
+    TMPDIR=$scratch/tmp-$target nice -n 19 "${apart[@]}" "$root/build/fuzz/fuzz/fuzz_$target" \
         -max_total_time="$seconds" -detect_leaks="$leaks" -timeout=20 -rss_limit_mb=4096 -print_final_stats=1 \
         -artifact_prefix="$found/$target-" "$corpus" "$root/fuzz/corpus/$target" \
         >"$log" 2>&1 || result=$?
@@ -51,6 +51,7 @@ fuzz() {
     export UBSAN_OPTIONS=print_stacktrace=1
     set_apart # the window listens on one port
     step "Fuzzing: ${#fuzz_targets[@]} targets, $seconds s each, $fuzz_jobs at once"
+    lock building
     local running=()
     for target in "${fuzz_targets[@]}"; do
         if [ "${#running[@]}" -ge "$fuzz_jobs" ]; then
@@ -63,5 +64,6 @@ fuzz() {
     for pid in "${running[@]}"; do
         wait "$pid" || result=1
     done
+    unlock
     return "$result"
 }
