@@ -26,10 +26,18 @@ const QString &offLine = LightingLines::off;
 const QString &wakeLine = LightingLines::wake;
 const QString redLine = QStringLiteral("4026597120,4043309056,4060086272,4076863488,0");
 
+/// Lets the window apply the settings by itself: no second time comes behind the back of a test
+/// that asks for the lines of the keyboard one by one. Takes a second.
+void startByItself(TestWindow &world)
+{
+    world.construct();
+    QTRY_VERIFY(world.window->lightingState().centreWord != wordText(DeviceWords::loading));
+}
+
 void startRed(TestWindow &world)
 {
     world.writeSettings("backlight_on=true\nbrightlevel=100\nZone1Color=255 0 0\n");
-    world.startByItself();
+    startByItself(world);
 }
 
 void takeWakeLines(const TestWindow &world)
@@ -130,7 +138,7 @@ void TestServiceServer::wakeWaitsWhileOff()
 {
     TestWindow world;
     world.writeSettings("backlight_on=false\nbrightlevel=100\nZone1Color=255 0 0\n");
-    world.startByItself();
+    startByItself(world);
     QCOMPARE(world.readLine(), offLine);
     QVERIFY(world.window->wakeSequence().wakePending);
     world.get<QRadioButton>("backlight_on")->click();

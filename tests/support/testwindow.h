@@ -11,7 +11,6 @@
 #include <QImage>
 #include <QTcpServer>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <memory>
 
@@ -71,14 +70,6 @@ public:
         construct();
         window->delayedApply();
         return *window;
-    }
-
-    /// Constructs the window, which applies the settings by itself: no second time comes behind the
-    /// back of a test that asks for the lines of the keyboard one by one. Takes a second.
-    void startByItself()
-    {
-        construct();
-        QTRY_VERIFY(window->lightingState().centreWord != wordText(DeviceWords::loading));
     }
 
     /// Where agents find this window.
