@@ -400,7 +400,13 @@ void TestAgentProgram::coloursInATerminal()
     QFETCH(QString, environment);
     const QString terminal = QStandardPaths::findExecutable(QStringLiteral("script"));
     if (terminal.isEmpty()) {
-        QSKIP("This system has no program that stands in for a terminal.");
+        QSKIP("Windows has no program that stands in for a terminal");
+    }
+    QProcess trial;
+    trial.start(terminal,
+                {QStringLiteral("-qec"), QStringLiteral("true"), QStringLiteral("/dev/null")});
+    if (!trial.waitForFinished() || trial.exitCode() != 0) {
+        QSKIP("this system lends no terminal");
     }
     server->replies = repliesOf({normalText});
     QVERIFY(server->listen());
