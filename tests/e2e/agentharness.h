@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/support/patience.h"
 #include "tests/support/testpaths.h"
 
 #include <QByteArray>
@@ -18,7 +19,6 @@
 #include <functional>
 
 constexpr quint16 port = 52316;
-constexpr int longEnough = 20000; ///< milliseconds; no wait in these tests may need more
 
 /// The wire format: both lengths and the text, all big-endian.
 inline QByteArray frame(const QString &text)
@@ -130,7 +130,7 @@ public:
     int exitCode()
     {
         const bool ended =
-            QTest::qWaitFor([this] { return process.state() == QProcess::NotRunning; }, longEnough);
+            QTest::qWaitFor([this] { return process.state() == QProcess::NotRunning; }, patienceMs);
         const bool normal = process.error() == QProcess::UnknownError
                             && process.exitStatus() == QProcess::NormalExit;
         return ended && normal ? process.exitCode() : -1;

@@ -1,5 +1,6 @@
 #include "system/testing/desktop.h"
 #include "tests/e2e/programlines.h"
+#include "tests/support/patience.h"
 #include "tests/support/programprocess.h"
 #include "tests/support/programwindow.h"
 #include "tests/support/serviceclient.h"
@@ -41,7 +42,7 @@ int shownBrightness(const QString &line)
 /// Waits for the first of the two wake lines, and takes it.
 bool wakeComes()
 {
-    return QTest::qWaitFor([] { return ServiceClient::readLine() == Lines::wake; });
+    return QTest::qWaitFor([] { return ServiceClient::readLine() == Lines::wake; }, patienceMs);
 }
 
 /// The first line that is not dark, nothing when none comes. The words follow the slider with the
@@ -53,7 +54,7 @@ QString firstLight()
         line = ServiceClient::readLine();
         return line != Lines::off && line != blackLine;
     };
-    return QTest::qWaitFor(isLit) ? line : QString();
+    return QTest::qWaitFor(isLit, patienceMs) ? line : QString();
 }
 
 /// Turns the wheel over a place of the window, which is no input.

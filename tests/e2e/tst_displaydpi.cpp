@@ -1,4 +1,5 @@
 #include "system/testing/desktop.h"
+#include "tests/support/patience.h"
 #include "tests/support/programprocess.h"
 #include "tests/support/programwindow.h"
 #include "tests/support/testsystem.h"
@@ -116,11 +117,13 @@ void TestDisplayDpi::sizes()
     QRect window;
     // The screen may show it before it has its size, and the tool stumbles over windows that go
     // while it looks at all there are.
-    const bool fits = QTest::qWaitFor([&] {
-        window = ProgramWindow::geometry();
-        return window.size().expandedTo(least) == window.size()
-               && window.size().boundedTo(most) == window.size();
-    });
+    const bool fits = QTest::qWaitFor(
+        [&] {
+            window = ProgramWindow::geometry();
+            return window.size().expandedTo(least) == window.size()
+                   && window.size().boundedTo(most) == window.size();
+        },
+        patienceMs);
     const QByteArray found =
         QByteArray::number(window.width()) + 'x' + QByteArray::number(window.height());
     QVERIFY2(fits, found.constData());
@@ -136,7 +139,7 @@ void TestDisplayDpi::sizes()
         // A corner that the display does not reach, or that is not painted yet.
         Desktop::move(ProgramWindow::shown(), {0, 0});
         window.moveTopLeft({0, 0});
-        QVERIFY2(QTest::qWaitFor(isRight), QByteArray::number(shown).constData());
+        QVERIFY2(QTest::qWaitFor(isRight, patienceMs), QByteArray::number(shown).constData());
     }
     // It has not gone through the right size on its way to another.
     QTest::qWait(300);

@@ -3,6 +3,7 @@
 #include "tests/e2e/documentpages.h"
 #include "tests/e2e/programlines.h"
 #include "tests/support/guitest.h"
+#include "tests/support/patience.h"
 #include "tests/support/programprocess.h"
 #include "tests/support/programwindow.h"
 #include "tests/support/serviceclient.h"
@@ -33,7 +34,8 @@ public:
     ~MinimalAgent()
     {
         process.kill();
-        if (!QTest::qWaitFor([this] { return process.state() == QProcess::NotRunning; })) {
+        if (!QTest::qWaitFor([this] { return process.state() == QProcess::NotRunning; },
+                             patienceMs)) {
             process.waitForFinished();
         }
     }
@@ -50,7 +52,7 @@ public:
     QStringList take(const QString &line)
     {
         if (!QTest::qWaitFor([&] { return !lines().isEmpty() && lines().last() == line; },
-                             10'000)) {
+                             patienceMs)) {
             qWarning("the agent did not come to: %s", qPrintable(line));
         }
         const QStringList found = lines();

@@ -2,6 +2,7 @@
 #include "tests/e2e/programlines.h"
 #include "tests/support/companionprocess.h"
 #include "tests/support/instancesocket.h"
+#include "tests/support/patience.h"
 #include "tests/support/programprocess.h"
 #include "tests/support/programtwin.h"
 #include "tests/support/programwindow.h"
@@ -126,12 +127,14 @@ void TestNeighbours::inTheCompanionSegment()
     };
     CompanionProcess companion;
     const auto followsTheCompanion = [&companion] {
-        return companion.publish(QStringLiteral("lit,50")) && QTest::qWaitFor([] {
-                   return ProgramProcess::stored("brightlevel") == QLatin1String("50");
-               })
-               && companion.publish(QStringLiteral("lit,100")) && QTest::qWaitFor([] {
-                      return ProgramProcess::stored("brightlevel") == QLatin1String("100");
-                  });
+        return companion.publish(QStringLiteral("lit,50"))
+               && QTest::qWaitFor(
+                   [] { return ProgramProcess::stored("brightlevel") == QLatin1String("50"); },
+                   patienceMs)
+               && companion.publish(QStringLiteral("lit,100"))
+               && QTest::qWaitFor(
+                   [] { return ProgramProcess::stored("brightlevel") == QLatin1String("100"); },
+                   patienceMs);
     };
     QVERIFY(followsTheCompanion());
     for (const QByteArray &bytes : contents) {

@@ -59,7 +59,7 @@ void TestResume::startWithColours(const QByteArray &settings, const QString &lin
 {
     ProgramProcess::writeSettings(settings);
     QVERIFY(program->startAndServe());
-    QTRY_COMPARE_WITH_TIMEOUT(ServiceClient::readLine(), line, 10'000);
+    QTRY_COMPARE(ServiceClient::readLine(), line);
     QTest::qWait(Lines::appliedAfterMs);
     QCOMPARE(ServiceClient::readLine(), line);
 }

@@ -1,6 +1,7 @@
 #include "programlines.h"
 #include "system/testing/sessionnotices.h"
 #include "system/testing/taskbar.h"
+#include "tests/support/patience.h"
 #include "tests/support/programprocess.h"
 #include "tests/support/serviceclient.h"
 
@@ -9,7 +10,7 @@
 namespace {
 
 /// Waits for a line. It is read once: wake lines come twice only.
-bool lineComes(const QString &line, int timeoutMs = 5000)
+bool lineComes(const QString &line, int timeoutMs = patienceMs)
 {
     return QTest::qWaitFor([&line] { return ServiceClient::readLine() == line; }, timeoutMs);
 }

@@ -1,6 +1,7 @@
 #include "system/testing/roughhandling.h"
 #include "tests/e2e/programlines.h"
 #include "tests/support/guitest.h"
+#include "tests/support/patience.h"
 #include "tests/support/programprocess.h"
 #include "tests/support/programtwin.h"
 #include "tests/support/programwindow.h"
@@ -102,7 +103,7 @@ void TestTroubledFiles::liveThrough(const Trouble &trouble, bool stillThere)
         before = readFile(ProgramProcess::settingsFile());
         return before.contains("backlight_on=true");
     };
-    QVERIFY(QTest::qWaitFor(isWhole));
+    QVERIFY(QTest::qWaitFor(isWhole, patienceMs));
     trouble.begin();
     for (int round = 0; round < 2; ++round) {
         twin->click("backlight_off");

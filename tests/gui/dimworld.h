@@ -36,7 +36,7 @@ public:
     {
         writeDimSettings("brightlevel=100\n");
         construct();
-        QTRY_COMPARE_WITH_TIMEOUT(leftWord(), QStringLiteral("4026597120"), 3000);
+        QTRY_COMPARE(leftWord(), QStringLiteral("4026597120"));
         readLine();
         readLine();
         QCOMPARE(readLine(), DimWorldLines::red);

@@ -1,5 +1,6 @@
 #include "lighting/serviceserver.h"
 #include "tests/support/lightinglines.h"
+#include "tests/support/patience.h"
 #include "tests/support/serviceclient.h"
 #include "tests/support/testwindow.h"
 
@@ -183,7 +184,7 @@ void TestServiceServer::manyAtOnce()
     int wakes = 0;
     int normals = 0;
     for (const auto &socket : sockets) {
-        QTRY_COMPARE_WITH_TIMEOUT(socket->state(), QAbstractSocket::UnconnectedState, 10000);
+        QTRY_COMPARE(socket->state(), QAbstractSocket::UnconnectedState);
         const QString line = ServiceClient::lineOf(socket->readAll());
         wakes += line == wakeLine ? 1 : 0;
         normals += line == redLine ? 1 : 0;
@@ -295,8 +296,8 @@ void TestServiceServer::acceptingGoesOn()
             QCoreApplication::processEvents();
         }
         const bool atOnce = !accepted.isEmpty();
-        const bool served =
-            QTest::qWaitFor([&] { return client.state() == QAbstractSocket::UnconnectedState; });
+        const bool served = QTest::qWaitFor(
+            [&] { return client.state() == QAbstractSocket::UnconnectedState; }, patienceMs);
         return Service{atOnce, served ? ServiceClient::lineOf(client.readAll()) : QString()};
     };
 

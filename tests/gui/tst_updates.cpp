@@ -1,4 +1,5 @@
 #include "raisewatcher.h"
+#include "tests/support/patience.h"
 #include "updateworld.h"
 
 #include <QElapsedTimer>
@@ -194,7 +195,8 @@ void TestUpdates::windowComesForward()
     bool inFront = false;
     const RaiseWatcher raises(window);
     watcher.look = [&](const QMessageBox &box) {
-        inFront = !window.isMinimized() && QTest::qWaitFor([&] { return box.isActiveWindow(); });
+        inFront = !window.isMinimized()
+                  && QTest::qWaitFor([&] { return box.isActiveWindow(); }, patienceMs);
     };
     window.SetAppVersion();
     QVERIFY(inFront);

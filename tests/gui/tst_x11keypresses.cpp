@@ -1,4 +1,5 @@
 #include "system/x11keypresses.h"
+#include "tests/support/patience.h"
 
 #include <QDir>
 #include <QProcess>
@@ -143,10 +144,12 @@ private:
     KeyPresses pressesUntil(std::size_t last)
     {
         KeyPresses all;
-        const bool seen = QTest::qWaitFor([&] {
-            all |= presses->takePresses();
-            return all.test(last);
-        });
+        const bool seen = QTest::qWaitFor(
+            [&] {
+                all |= presses->takePresses();
+                return all.test(last);
+            },
+            patienceMs);
         if (!seen) {
             qWarning("only seen: %s", qPrintable(codes(all)));
         }
@@ -303,7 +306,7 @@ void TestX11KeyPresses::twoListeners()
     X11KeyPresses second;
     press("a");
     QCOMPARE(codes(pressesUntil(aKey)), codes({aKey}));
-    QVERIFY(QTest::qWaitFor([&] { return second.takePresses().test(aKey); }));
+    QVERIFY(QTest::qWaitFor([&] { return second.takePresses().test(aKey); }, patienceMs));
 }
 
 void TestX11KeyPresses::noDisplay_data()

@@ -192,10 +192,26 @@ differences() { # files or registry, one look, the other
 window() { xdotool search --onlyvisible --name "$1" 2>/dev/null | head -n 1; }
 is_shown() { [ -n "$(window "$1")" ]; }
 
-# Waits for a window and gives what it shows time to be painted.
+# all_wait: whether no program of this prefix has anything to do; each is asleep for half a second.
+all_wait() {
+    local look programs
+    programs=$(grep -lsz "^WINEPREFIX=$WINEPREFIX\$" /proc/[0-9]*/environ | tr -dc '0-9\n' | paste -sd,)
+    for look in $(seq 10); do
+        ! ps -L -o state= -p "$programs" | grep -q '[RD]' || return 1
+        sleep 0.05
+    done
+}
+
+# Gives what is shown time to change and to be painted, on a machine that is kept from working, too.
+settle() {
+    sleep 0.7
+    within 60 all_wait || fail "the programs do not come to rest"
+}
+
+# Waits for a window and until it is painted.
 await_window() {
-    within 30 is_shown "$1" || { picture missing; fail "no window is shown: $1"; }
-    sleep 1
+    within 60 is_shown "$1" || { picture missing; fail "no window is shown: $1"; }
+    settle
 }
 
 picture() { # name
@@ -205,5 +221,5 @@ picture() { # name
 # keys KEY...: types into the window that has the focus.
 keys() {
     xdotool key --delay 50 "$@"
-    sleep 0.7
+    settle
 }

@@ -33,12 +33,13 @@ void ProgramProcess::kill()
     process.kill();
     // By its notice, before anything waits for it: Wine's thread pool may call back into a wait
     // that is given up at that moment.
-    if (!QTest::qWaitFor([this] { return process.state() == QProcess::NotRunning; })) {
+    if (!QTest::qWaitFor([this] { return process.state() == QProcess::NotRunning; }, patienceMs)) {
         process.waitForFinished();
     }
     // The screen may show the window a moment longer: nobody is to take it for that of the program
     // which is started next.
-    if (window != 0 && !QTest::qWaitFor([window] { return ProgramWindow::shown() != window; })) {
+    if (window != 0
+        && !QTest::qWaitFor([window] { return ProgramWindow::shown() != window; }, patienceMs)) {
         qWarning("the window of a killed program does not go");
     }
 }

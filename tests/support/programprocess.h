@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tests/support/patience.h"
+
 #include <QByteArray>
 #include <QProcess>
 #include <QString>
@@ -30,13 +32,13 @@ public:
     /// Starts the program in @p directory; true when the process runs.
     bool start(const QString &directory = programFolder(), const QStringList &arguments = {});
     /// Waits until the log holds @p text.
-    bool waitForLog(const QByteArray &text, int timeoutMs = 20000) const;
+    bool waitForLog(const QByteArray &text, int timeoutMs = patienceMs) const;
     /// Starts, and waits until the Service Server listens.
     bool startAndServe(const QString &directory = programFolder(),
                        const QStringList &arguments = {});
 
     /// Ends the program without asking it; returns when neither it nor its window, where it is the
-    /// only one, is there any more. A window that stays for five seconds is warned of.
+    /// only one, is there any more. A window that stays is warned of.
     void kill();
 
     /// What the program has logged since it started.

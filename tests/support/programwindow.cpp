@@ -2,6 +2,7 @@
 
 #include "system/testing/desktop.h"
 #include "tests/support/guitest.h"
+#include "tests/support/patience.h"
 
 #include <QTest>
 
@@ -44,10 +45,12 @@ void ProgramWindow::drag(const QPoint &from, const QPoint &to)
 QPoint ProgramWindow::onScreen(QWidget &twin, const char *name, const QPoint &offset)
 {
     QRect place;
-    if (!QTest::qWaitFor([&place] {
-            place = geometry();
-            return !place.isEmpty();
-        })) {
+    if (!QTest::qWaitFor(
+            [&place] {
+                place = geometry();
+                return !place.isEmpty();
+            },
+            patienceMs)) {
         qFatal("the program shows no window to click on");
     }
     twin.resize(place.size());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "lighting/serviceendpoint.h"
+#include "tests/support/patience.h"
 
 #include <QByteArray>
 #include <QString>
@@ -11,7 +12,7 @@ namespace ServiceClient {
 
 /// All bytes from connecting until the server closes; empty when there is no server.
 /// Runs the event loop, so it also works against a server of the same process.
-QByteArray readAnswer(int timeoutMs = 5000, quint16 port = ServiceEndpoint().port);
+QByteArray readAnswer(int timeoutMs = patienceMs, quint16 port = ServiceEndpoint().port);
 
 /// The command line of one answer; "malformed: ..." with the bytes in hexadecimal otherwise.
 QString lineOf(const QByteArray &answer);
@@ -19,7 +20,7 @@ QString lineOf(const QByteArray &answer);
 /// Connects, reads and decodes.
 inline QString readLine(quint16 port = ServiceEndpoint().port)
 {
-    return lineOf(readAnswer(5000, port));
+    return lineOf(readAnswer(patienceMs, port));
 }
 
 } // namespace ServiceClient
