@@ -1,6 +1,7 @@
 #include "app/appsettings.h"
 #include "app/singleapplication.h"
 #include "app/startup.h"
+#include "app/translation.h"
 #include "system/platform.h"
 #include "ui/darkstyle.h"
 #include "ui/mainwindow.h"
@@ -11,6 +12,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QFont>
+#include <QLocale>
 
 namespace {
 
@@ -87,13 +89,14 @@ int main(int argc, char *argv[])
     // finds it by itself. Set earlier, it would part this version from those that already run.
     setIdentity();
     QApplication::setStyle(new DarkStyle); // the application takes ownership
+    const AppSettings settings;
+    speakChosenLanguage(settings, QLocale::system().uiLanguages());
 
     // Building the window lets events in, so a later start may come before there is a window.
     bool startedAgain = false;
     QObject::connect(&application, &SingleApplication::instanceStarted,
                      [&startedAgain] { startedAgain = true; });
 
-    const AppSettings settings;
     MainWindow window(settings, *platform, application, QDateTime::currentMSecsSinceEpoch,
                       ServiceEndpoint());
     QObject::connect(&application, SIGNAL(aboutToQuit()), &window, SLOT(ShutdownQuit()));

@@ -100,6 +100,8 @@ inline constexpr Key<QString> rightColour("Zone3Color");
 inline constexpr Key<QString> singleColour("Zone4Color");
 inline constexpr Key<bool> singleColourLast("singlecolorselectedlast");
 inline constexpr Key<QString> stripeLid("StripeLid");
+// A locale's name, or "system"; goes before the branding's. Never written here: the installer does.
+inline constexpr Key<QString> language("language");
 } // namespace SettingKeys
 
 /// Keys of the branding file, group "settings".
@@ -113,6 +115,8 @@ inline constexpr BrandingKey<int> highlightGreen("highlightcolor_GREEN");
 inline constexpr BrandingKey<int> highlightBlue("highlightcolor_BLUE");
 // Scheme and host of the update server, for a vendor that has its own.
 inline constexpr BrandingKey<QString> updateServer("updateserver");
+// The vendor's choice, as the setting of that name.
+inline constexpr BrandingKey<QString> language("language");
 } // namespace BrandingKeys
 
 /// Keys of the work file, group "workqueue".

@@ -5,6 +5,7 @@
 #include "colorpicker/svselector.h"
 
 #include <QAccessibleWidget>
+#include <QCoreApplication>
 
 #include <algorithm>
 
@@ -47,7 +48,7 @@ public:
     QString text(QAccessible::Text kind) const override
     {
         if (kind == QAccessible::Description) {
-            return QStringLiteral("Saturation %1, value %2")
+            return QCoreApplication::translate("MainWindow", "Saturation %1, value %2")
                 .arg(square->saturation())
                 .arg(square->value());
         }

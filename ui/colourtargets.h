@@ -27,21 +27,24 @@ struct ColourTargetRow
 
 inline constexpr std::array<ColourTargetRow, 5> colourTargets{{
     {ColourTarget::Left, Zone::Left, &SettingKeys::leftColour, &LightingState::leftZoneColor,
-     &Ui_MainWindow::colorpick1, "Select Left Keyboard Zone Color:", KeyboardPicture::Left,
+     &Ui_MainWindow::colorpick1,
+     QT_TRANSLATE_NOOP("MainWindow", "Select Left Keyboard Zone Color:"), KeyboardPicture::Left,
      &Ui_MainWindow::keyboard_left},
     {ColourTarget::Centre, Zone::Centre, &SettingKeys::centreColour,
      &LightingState::centerZoneColor, &Ui_MainWindow::colorpick2,
-     "Select Center Keyboard Zone Color:", KeyboardPicture::Centre,
+     QT_TRANSLATE_NOOP("MainWindow", "Select Center Keyboard Zone Color:"), KeyboardPicture::Centre,
      &Ui_MainWindow::keyboard_center},
     {ColourTarget::Right, Zone::Right, &SettingKeys::rightColour, &LightingState::rightZoneColor,
-     &Ui_MainWindow::colorpick3, "Select Right Keyboard Zone Color:", KeyboardPicture::Right,
+     &Ui_MainWindow::colorpick3,
+     QT_TRANSLATE_NOOP("MainWindow", "Select Right Keyboard Zone Color:"), KeyboardPicture::Right,
      &Ui_MainWindow::keyboard_right},
     {ColourTarget::Keyboard, std::nullopt, &SettingKeys::singleColour,
      &LightingState::singleZoneColor, &Ui_MainWindow::colorpick4,
-     "Select Keyboard Color:", KeyboardPicture::Full, &Ui_MainWindow::keyboard_full},
+     QT_TRANSLATE_NOOP("MainWindow", "Select Keyboard Color:"), KeyboardPicture::Full,
+     &Ui_MainWindow::keyboard_full},
     {ColourTarget::Stripe, Zone::Stripe, &SettingKeys::stripeLid, &LightingState::stripeLidColor,
-     &Ui_MainWindow::colorpick5, "Select Stripe / LCD Lid Color:", KeyboardPicture::Stripe,
-     &Ui_MainWindow::stripe_led},
+     &Ui_MainWindow::colorpick5, QT_TRANSLATE_NOOP("MainWindow", "Select Stripe / LCD Lid Color:"),
+     KeyboardPicture::Stripe, &Ui_MainWindow::stripe_led},
 }};
 
 /// The three that share the keyboard, each with a zone of its own.

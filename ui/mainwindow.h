@@ -188,7 +188,7 @@ private:
     void showPreview(const ColourTargetRow &row, const QColor &tint);
     void rememberSingleColour(bool selected);
     void showEffect(bool chosen);
-    void showBrightness(const char *suffix);
+    void showBrightness(const char *text);
 
     QString rgbText() const override;
     void setRgbText(const QString &text) override;

@@ -6,6 +6,7 @@
 #include "colorpicker/pickergeometry.h"
 #include "colorpicker/services.h"
 #include "ui/colourtargets.h"
+#include "ui/texts.h"
 
 namespace {
 
@@ -88,7 +89,7 @@ void MainWindow::openPicker(ColourTarget target)
     }
     updateColorRGB(colour);
     ui->leRGB->clearFocus();
-    ui->label_8->setText(QString::fromLatin1(row.prompt));
+    ui->label_8->setText(translated(row.prompt));
     ui->comboBox_BasicColors->setCurrentIndex(basicColorIndex(ui->leRGB->text()));
     ui->svSelector->setFocus(picker.input.wasMouse() ? Qt::MouseFocusReason : Qt::OtherFocusReason);
 }
@@ -236,19 +237,19 @@ void MainWindow::copyRGB()
 {
     colourProcessor->copyToClipboard(
         ui->leRGB->text().replace(QLatin1String(" "), QLatin1String(", ")));
-    ui->statusBar->showMessage(QStringLiteral("RGB copied"), messageMs);
+    ui->statusBar->showMessage(tr("RGB copied"), messageMs);
 }
 
 void MainWindow::copyHex()
 {
     colourProcessor->copyToClipboard(ui->leHex->text());
-    ui->statusBar->showMessage(QStringLiteral("Hex copied"), messageMs);
+    ui->statusBar->showMessage(tr("Hex copied"), messageMs);
 }
 
 void MainWindow::copyHexHash()
 {
     colourProcessor->copyToClipboard(QLatin1Char('#') + ui->leHex->text());
-    ui->statusBar->showMessage(QStringLiteral("Hex # copied"), messageMs);
+    ui->statusBar->showMessage(tr("Hex # copied"), messageMs);
 }
 
 void MainWindow::pasteHex()
@@ -259,7 +260,7 @@ void MainWindow::pasteHex()
     }
     ui->leHex->setText(hex);
     emit ui->leHex->textEdited(hex);
-    ui->statusBar->showMessage(QStringLiteral("Hex value pasted"), messageMs);
+    ui->statusBar->showMessage(tr("Hex value pasted"), messageMs);
 }
 
 void MainWindow::on_bHex_clicked()

@@ -37,14 +37,14 @@ void MainWindow::on_CheckBox_AutoDim_clicked()
     settings.write(SettingKeys::autoDim, checked);
     if (checked) {
         starttimerdelay();
-        showBrightness(Messages::brightnessSuffix(DimPhase::Watching));
+        showBrightness(Messages::brightnessText(DimPhase::Watching));
         return;
     }
     dim.active = false;
     dimTimer->stop();
     ui->horizontalSlider->setValue(dim.userBrightness);
     ui->horizontalSlider->setEnabled(true);
-    showBrightness("%");
+    showBrightness(Messages::brightness);
 }
 
 void MainWindow::starttimerdelay()
@@ -76,7 +76,7 @@ void MainWindow::timerDone()
         slider.setEnabled(*step.sliderEnabled);
     }
     if (step.told) {
-        showBrightness(Messages::brightnessSuffix(*step.told));
+        showBrightness(Messages::brightnessText(*step.told));
     }
     if (step.leftOff) {
         lighting.leftWord = wordText(DeviceWords::lightingOff);
@@ -101,6 +101,6 @@ void MainWindow::sharedmemtimer()
     dim.userBrightness = qBound(slider.minimum(), *published, slider.maximum());
     if (!ui->CheckBox_AutoDim->isChecked()) {
         slider.setValue(dim.userBrightness);
-        showBrightness("% (set by Dashport)");
+        showBrightness(Messages::brightnessFromCompanion);
     }
 }

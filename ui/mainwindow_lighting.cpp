@@ -5,6 +5,8 @@
 #include "ui/colourhub.h"
 #include "ui/colourtargets.h"
 #include "ui/darkstyle.h"
+#include "ui/messages.h"
+#include "ui/texts.h"
 #include "ui/zonepages.h"
 
 #include <QTimer>
@@ -138,18 +140,16 @@ void MainWindow::brightnessapply()
 
 void MainWindow::on_horizontalSlider_valueChanged(int /*value*/)
 {
-    showBrightness("%");
+    showBrightness(Messages::brightness);
     if (!dim.active) {
         dim.userBrightness = ui->horizontalSlider->value();
         settings.write(SettingKeys::brightLevel, dim.userBrightness);
     }
 }
 
-void MainWindow::showBrightness(const char *suffix)
+void MainWindow::showBrightness(const char *text)
 {
-    ui->label_2->setText(QStringLiteral("Brightness Level: %1%2")
-                             .arg(ui->horizontalSlider->value())
-                             .arg(QLatin1String(suffix)));
+    ui->label_2->setText(translated(text).arg(ui->horizontalSlider->value()));
 }
 
 void MainWindow::enableWhatNeedsTheBacklight(bool enabled)
@@ -219,7 +219,7 @@ void MainWindow::showEffect(bool chosen)
     ui->horizontalSlider->setEnabled(!chosen);
     ui->CheckBox_AutoDim->setEnabled(!chosen);
     ui->comboDimValue->setEnabled(!chosen);
-    showBrightness(chosen ? "% (disabled for Effects)" : "%");
+    showBrightness(chosen ? Messages::brightnessUnderEffects : Messages::brightness);
 }
 
 void MainWindow::on_StartHidden_2_clicked()

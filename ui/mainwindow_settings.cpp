@@ -6,6 +6,7 @@
 #include "system/platform.h"
 #include "ui/colourtargets.h"
 #include "ui/darkstyle.h"
+#include "ui/messages.h"
 #include "ui/windowplace.h"
 #include "ui/zonepages.h"
 
@@ -93,7 +94,7 @@ void MainWindow::delayedApply()
     // and would find nothing new from now on.
     lastAppliedBrightness = nothingApplied;
     dim.active = false; // the slider is the user's again, also where an effect keeps polls off
-    showBrightness("%");
+    showBrightness(Messages::brightness);
     lighting.stripeLidColor = settings.read(SettingKeys::stripeLid);
     setColour(ColourTarget::Stripe, lighting.stripeLidColor);
     ui->touch_mouse_wake->setChecked(settings.read(SettingKeys::touchWake));

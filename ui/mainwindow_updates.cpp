@@ -5,6 +5,7 @@
 #include "system/platform.h"
 #include "system/versionrequest.h"
 #include "ui/messages.h"
+#include "ui/texts.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -50,12 +51,12 @@ void MainWindow::SetAppVersion()
 
 void MainWindow::showVersions(const QString &installed, const QString &latest)
 {
-    ui->Label_SoftwareVersion->setText(QStringLiteral("Installed: ") + installed);
-    ui->Label_SoftwareServerVersion->setText(QStringLiteral("Latest: ") + latest);
+    ui->Label_SoftwareVersion->setText(tr("Installed: %1").arg(installed));
+    ui->Label_SoftwareServerVersion->setText(tr("Latest: %1").arg(latest));
     const VersionVerdict verdict = versionVerdict(compareVersions(installed, latest));
     const Messages::VersionTexts texts = Messages::versionTexts(verdict);
     const bool updateWaits = verdict == VersionVerdict::UpdateWaits;
-    ui->Label_SoftwareVersion_desc->setText(QString::fromLatin1(texts.description));
+    ui->Label_SoftwareVersion_desc->setText(translated(texts.description));
     ui->Button_Update->setEnabled(updateWaits);
     settings.write(WorkKeys::updatePending, updateWaits);
     if (updateWaits) {

@@ -1,6 +1,7 @@
 #include "ui/messages.h"
 
 #include "ui/evenlines.h"
+#include "ui/texts.h"
 
 #include <QLabel>
 #include <QLayout>
@@ -66,8 +67,8 @@ int show(QWidget *window, const Message &message, QMessageBox::Icon icon,
 {
     // The flag must be there when the box is made: set alone afterwards it would take the others
     // away and make the box a child inside the window.
-    EvenBox box(icon, QString::fromLatin1(message.title), QString::fromLatin1(message.text),
-                buttons, window, Qt::FramelessWindowHint);
+    EvenBox box(icon, translated(message.title), translated(message.text), buttons, window,
+                Qt::FramelessWindowHint);
     box.setDefaultButton(preset);
     return box.exec();
 }

@@ -3,6 +3,8 @@
 #include "lighting/autodim.h"
 #include "system/versions.h"
 
+#include <QtGlobal>
+
 class QWidget;
 
 /// A modal box over the window: frameless, in the program's own look.
@@ -12,26 +14,38 @@ struct Message
     const char *text;
 };
 
-/// Every question and notice, to the letter; some of their oddities look like mistakes and stay.
+/// Every question and notice in English, to the letter; some of their oddities look like mistakes
+/// and stay. What shows them translates them.
 namespace Messages {
 inline constexpr Message installFirmwareLibrary{
-    "Control Center not installed",
-    "You do not seem to be using Control Center. For this software to work we need to install a "
-    "small dll for it to work. Can we install it?.\n"};
+    QT_TRANSLATE_NOOP("MainWindow", "Control Center not installed"),
+    QT_TRANSLATE_NOOP("MainWindow", "You do not seem to be using Control Center. For this software "
+                                    "to work we need to install a "
+                                    "small dll for it to work. Can we install it?.\n")};
 
-inline constexpr const char *updateTitle = "Update Information";
+inline constexpr const char *updateTitle = QT_TRANSLATE_NOOP("MainWindow", "Update Information");
 inline constexpr Message updateNow{
-    updateTitle, "There is an update for this software! Do you want to update now?.\n"};
+    updateTitle,
+    QT_TRANSLATE_NOOP("MainWindow",
+                      "There is an update for this software! Do you want to update now?.\n")};
 inline constexpr Message updateNeedsRights{
-    updateTitle, "There is an update for this software! But to be able to update we need Admin "
-                 "access. Do you want to run this app with admin access so that we can update it "
-                 "automatically?"};
+    updateTitle,
+    QT_TRANSLATE_NOOP(
+        "MainWindow",
+        "There is an update for this software! But to be able to update we need Admin "
+        "access. Do you want to run this app with admin access so that we can update it "
+        "automatically?")};
 
 inline constexpr Message uninstallNeedsRights{
-    "Monitor", "To uninstall Lumikey we need admin access.\nDo you allow it?\nLumikey will restart "
-               "with admin access, after that you should click the uninstall button again."};
+    QT_TRANSLATE_NOOP("MainWindow", "Monitor"),
+    QT_TRANSLATE_NOOP(
+        "MainWindow",
+        "To uninstall Lumikey we need admin access.\nDo you allow it?\nLumikey will restart "
+        "with admin access, after that you should click the uninstall button again.")};
 inline constexpr Message perKeyNeedsRights{
-    "Per Key Install", "To install the Per-Key RGB App we need Admin access, do you allow it?"};
+    QT_TRANSLATE_NOOP("MainWindow", "Per Key Install"),
+    QT_TRANSLATE_NOOP("MainWindow",
+                      "To install the Per-Key RGB App we need Admin access, do you allow it?")};
 
 /// What the user is told of a comparison of versions.
 struct VersionTexts
@@ -44,29 +58,44 @@ constexpr VersionTexts versionTexts(VersionVerdict verdict)
 {
     switch (verdict) {
     case VersionVerdict::UpdateWaits:
-        return {"There is an update! Click the update button.", nullptr};
+        return {QT_TRANSLATE_NOOP("MainWindow", "There is an update! Click the update button."),
+                nullptr};
     case VersionVerdict::Latest:
-        return {"You are running the latest version, there is no update.",
-                "You are running the latest version, there is no update.\n"};
+        return {QT_TRANSLATE_NOOP("MainWindow",
+                                  "You are running the latest version, there is no update."),
+                QT_TRANSLATE_NOOP("MainWindow",
+                                  "You are running the latest version, there is no update.\n")};
     case VersionVerdict::Newer:
         break;
     }
-    return {"Your version is newer then the official latest! Are you a beta tester?",
-            "Your version is newer then the official latest! You are probably a beta tester.\n"};
+    return {
+        QT_TRANSLATE_NOOP("MainWindow",
+                          "Your version is newer then the official latest! Are you a beta tester?"),
+        QT_TRANSLATE_NOOP(
+            "MainWindow",
+            "Your version is newer then the official latest! You are probably a beta tester.\n")};
 }
 
-/// What stands behind the value of the brightness label while auto-dim is on.
-constexpr const char *brightnessSuffix(DimPhase phase)
+// What stands over the slider; %1 is its value. Whole texts, because the sign of percent has
+// another place in some languages.
+inline constexpr const char *brightness = QT_TRANSLATE_NOOP("MainWindow", "Brightness Level: %1%");
+inline constexpr const char *brightnessFromCompanion =
+    QT_TRANSLATE_NOOP("MainWindow", "Brightness Level: %1% (set by Dashport)");
+inline constexpr const char *brightnessUnderEffects =
+    QT_TRANSLATE_NOOP("MainWindow", "Brightness Level: %1% (disabled for Effects)");
+
+/// The same while auto-dim is on.
+constexpr const char *brightnessText(DimPhase phase)
 {
     switch (phase) {
     case DimPhase::Watching:
-        return "% (Auto dim mode)";
+        return QT_TRANSLATE_NOOP("MainWindow", "Brightness Level: %1% (Auto dim mode)");
     case DimPhase::Dimming:
-        return "% (dimming down)";
+        return QT_TRANSLATE_NOOP("MainWindow", "Brightness Level: %1% (dimming down)");
     case DimPhase::Dimmed:
         break;
     }
-    return "% (dimmed)";
+    return QT_TRANSLATE_NOOP("MainWindow", "Brightness Level: %1% (dimmed)");
 }
 } // namespace Messages
 

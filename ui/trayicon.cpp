@@ -1,5 +1,7 @@
 #include "ui/trayicon.h"
 
+#include "ui/texts.h"
+
 #include <QAction>
 #include <QIcon>
 
@@ -11,9 +13,10 @@ TrayIcon::TrayIcon(QWidget *window)
     connect(this, SIGNAL(activated(QSystemTrayIcon::ActivationReason)), window,
             SLOT(show_hide(QSystemTrayIcon::ActivationReason)));
 
-    auto *const exitAction = new QAction(QStringLiteral("Exit"), this);
+    auto *const exitAction = new QAction(translated(QT_TRANSLATE_NOOP("MainWindow", "Exit")), this);
     connect(exitAction, SIGNAL(triggered()), window, SLOT(close()));
-    auto *const showAction = new QAction(QStringLiteral("Show Interface"), this);
+    auto *const showAction =
+        new QAction(translated(QT_TRANSLATE_NOOP("MainWindow", "Show Interface")), this);
     connect(showAction, SIGNAL(triggered()), window, SLOT(ShowInterface()));
     menu.addAction(showAction);
     menu.addAction(exitAction);

@@ -7,7 +7,7 @@ set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 export LC_ALL=C.UTF-8
 
-build_packages=(cmake ninja-build g++ pkg-config qtbase5-dev libxcb-xinput-dev)
+build_packages=(cmake ninja-build g++ pkg-config qtbase5-dev qttools5-dev-tools libxcb-xinput-dev)
 display_packages=(xvfb openbox x11-utils fonts-dejavu-core imagemagick)
 screen_reader_packages=(dbus at-spi2-core gir1.2-atspi-2.0 python3-gi)
 
