@@ -8,7 +8,9 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 export LC_ALL=C.UTF-8
 
 build_packages=(cmake ninja-build g++ pkg-config qtbase5-dev qttools5-dev-tools libxcb-xinput-dev)
-display_packages=(xvfb openbox x11-utils fonts-dejavu-core imagemagick)
+# The last font has the Chinese, Japanese and Korean letters that the first lacks: one file, and no rules
+# that would change what other letters look like.
+display_packages=(xvfb openbox x11-utils imagemagick fonts-dejavu-core fonts-droid-fallback)
 screen_reader_packages=(dbus at-spi2-core gir1.2-atspi-2.0 python3-gi)
 
 # Progress goes to standard error, so that a script's result stays alone on standard output.
