@@ -70,6 +70,20 @@ def check_for_update(program):
     click(BUTTON, "Check for Update")(program)
 
 
+def languages(code, zones, picked):
+    """The zones and the picker in another language, known by a label of each."""
+    speaks = PICKED + f"language={code}\n"
+
+    def open_picker(program):
+        program.find(LABEL, zones)
+        click(BUTTON, OPENERS[code])(program)
+
+    return [State(f"zones-{code}", speaks, zones),
+            State(f"picker-{code}", speaks, picked, open_picker)]
+
+
+OPENERS = {"de": "Farbe der linken Zone", "ru": "Цвет левой зоны", "ja": "左ゾーンの色"}
+
 STATES = [
     State("single", SINGLE, "Single Color Selection"),
     State("zones", ZONES, "Left"),
@@ -87,6 +101,9 @@ STATES = [
     State("box-rights", ZONES, "Update Information", latest=NEWER, box=True),
     State("box-update", ZONES, "Update Information", latest=NEWER, box=True,
           rights="administrator"),
+    *languages("de", "Links", "Gewählte Farbe:"),
+    *languages("ru", "Слева", "Выбранный цвет:"),
+    *languages("ja", "左", "選択した色:"),
 ]
 
 

@@ -1,4 +1,5 @@
 #include "app/settingskeys.h"
+#include "app/translation.h"
 #include "system/testing/desktop.h"
 #include "tests/e2e/documentpages.h"
 #include "tests/e2e/programlines.h"
@@ -13,6 +14,7 @@
 #include <QDirIterator>
 #include <QLabel>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
@@ -90,10 +92,13 @@ private slots:
     void buttons();
     void previews();
     void updateServer();
+    void language_data();
+    void language();
 
 private:
     /// Starts the vendor's program, and makes a window like it.
-    void start();
+    /// @param own lines that the user's settings have besides
+    void start(const QByteArray &own = {});
     QColor seen(const char *name, const QPoint &offset = {}) const
     {
         const QPoint place = ProgramWindow::onScreen(*twin->window, name, offset);
@@ -136,12 +141,12 @@ void TestBranding::initTestCase()
     }
 }
 
-void TestBranding::start()
+void TestBranding::start(const QByteArray &own)
 {
     twin.reset();
     server.requests.clear();
     program = std::make_unique<ProgramProcess>();
-    ProgramProcess::writeSettings(settings);
+    ProgramProcess::writeSettings(settings + own);
     program->process.setWorkingDirectory(vendor.path());
     program->process.start(vendor.filePath(QFileInfo(ProgramProcess::executable()).fileName()),
                            QStringList());
@@ -177,7 +182,7 @@ void TestBranding::pageIsComplete()
     }
     for (const SettingKey &key : std::initializer_list<SettingKey>{
              BrandingKeys::appName, BrandingKeys::highlightRed, BrandingKeys::highlightGreen,
-             BrandingKeys::highlightBlue, BrandingKeys::updateServer}) {
+             BrandingKeys::highlightBlue, BrandingKeys::updateServer, BrandingKeys::language}) {
         const QString name = QString::fromLatin1(key.name);
         QVERIFY2(text.contains(QLatin1Char('`') + name + QLatin1Char('`')), key.name);
         QVERIFY2(text.contains(QLatin1Char('\n') + name + QLatin1Char('=')), key.name);
@@ -247,6 +252,46 @@ void TestBranding::updateServer()
     QCOMPARE(server.requests.size(), 1);
     QVERIFY2(server.requests.first().startsWith("GET /lumikey/version HTTP/1.1\r\n"),
              server.requests.first().constData());
+}
+
+void TestBranding::language_data()
+{
+    QTest::addColumn<QByteArray>("own");
+    QTest::addColumn<bool>("german");
+    QTest::newRow("the vendor's") << QByteArray() << true;
+    QTest::newRow("the user's") << QByteArray("language=en\n") << false;
+    QTest::newRow("one that there is not") << QByteArray("language=xx\n") << false;
+}
+
+void TestBranding::language()
+{
+    QFETCH(QByteArray, own);
+    QFETCH(bool, german);
+    const QString file = vendor.filePath(QStringLiteral("branding/lumikey_branding.ini"));
+    const QByteArray before = readFile(file);
+    const auto putBack = qScopeGuard([&] { writeFile(file, before); });
+    writeFile(file, before + "language=de\n"); // as on the page
+    start(own);
+    // A window of this process speaks what is installed here.
+    const auto looksAsIn = [this](QTranslator *language) {
+        if (language) {
+            QCoreApplication::installTranslator(language);
+        }
+        twin = std::make_unique<TestWindow>();
+        twin->writeBranding(vendorsLines);
+        twin->writeSettings(settings);
+        twin->start();
+        ProgramWindow::onScreen(*twin->window, "label"); // lays the twin out
+        const auto &text = *twin->get<QLabel>("label");
+        const QRect label(text.mapTo(twin->window.get(), QPoint()), text.size());
+        const QImage shown = ProgramWindow::picture().convertToFormat(QImage::Format_RGB32);
+        const QImage here = twin->window->grab().toImage().convertToFormat(QImage::Format_RGB32);
+        return shown.copy(label) == here.copy(label);
+    };
+    QCOMPARE(looksAsIn(nullptr), !german);
+    const auto translation = Translation::load(Translation::builtInFolder(), QStringLiteral("de"));
+    QCOMPARE(looksAsIn(translation.get()), german);
+    QCOMPARE(program->log().contains("Unknown language: \"xx\""), own.contains("xx"));
 }
 
 QTEST_MAIN(TestBranding)
