@@ -4,6 +4,7 @@
 ;   PICTURES           the folder of side.bmp and header.bmp
 ;   SOURCES, ICON      the folder of this file, and the program's icon
 ;   FILES              the list of DIST's files and folders, as macros
+;   LANGUAGES          the list of the program's languages, as a macro
 ;   COMPRESSOR, OUTPUT how to pack, and the installer's own file
 ;
 ; Exit codes: 0 done, 1 given up by the user, 2 failed (a file could not be written or taken away),
@@ -22,8 +23,10 @@ ManifestSupportedOS all
 !include MUI2.nsh
 !include FileFunc.nsh
 !include LogicLib.nsh
+!include nsDialogs.nsh
 !include WordFunc.nsh
 !include "${FILES}"
+!include "${LANGUAGES}"
 !include "${SOURCES}/running.nsh"
 
 !define NAME Lumikey
@@ -59,6 +62,9 @@ Var InstalledFolder  ; of the version that is there, "" when there is none
 Var WelcomeText
 Var FirstNewFolder   ; the first one on the way to $INSTDIR that the installation made
 Var IsLaidOver       ; 1 when a copy is there that no installer can remove
+Var LanguageList     ; the control
+Var LanguageBefore   ; what it showed first
+Var SpokenLanguage   ; chosen there, as the settings say it; "" when it was left as it stood
 Var IsUpgrade        ; in the uninstaller: 1 when the installer calls it to make room
 
 !define MUI_ICON "${ICON}"
@@ -76,6 +82,7 @@ Var IsUpgrade        ; in the uninstaller: 1 when the installer calls it to make
 !define MUI_WELCOMEPAGE_TITLE "${NAME} ${VERSION}"
 !define MUI_WELCOMEPAGE_TEXT "$WelcomeText"
 !insertmacro MUI_PAGE_WELCOME
+Page custom ShowLanguages KeepLanguage
 !define MUI_PAGE_CUSTOMFUNCTION_PRE SkipFolderPageOfUpgrade
 !define MUI_PAGE_CUSTOMFUNCTION_LEAVE CheckChosenFolder
 !insertmacro MUI_PAGE_DIRECTORY
@@ -188,6 +195,78 @@ FunctionEnd
 Function SkipFolderPageOfUpgrade
     ${If} $InstalledFolder != ""
         Abort
+    ${EndIf}
+FunctionEnd
+
+!define SETTINGS "$DOCUMENTS\Corvane\${NAME}\lumikey.ini"
+
+!macro ListLanguage CODE NAME
+    ${NSD_CB_AddString} $LanguageList "${NAME}"
+    ${If} $1 == "${CODE}"
+        StrCpy $LanguageBefore "${NAME}"
+    ${EndIf}
+    ${If} $SpokenLanguage == "${CODE}" ; who comes back to this page
+        StrCpy $2 "${NAME}"
+    ${EndIf}
+!macroend
+
+!macro ListLanguages DO
+    !insertmacro ${DO} "en" "English"
+    !insertmacro EachLanguage ${DO}
+    !insertmacro ${DO} "system" "The language of Windows"
+!macroend
+
+; What the window is to speak. The settings of who installs may say it already; an upgrade leaves it
+; to them.
+Function ShowLanguages
+    ${If} $InstalledFolder != ""
+        Abort
+    ${EndIf}
+    !insertmacro MUI_HEADER_TEXT "Language" "Choose what ${NAME} is to speak."
+    nsDialogs::Create 1018
+    Pop $0
+    ${NSD_CreateLabel} 0 0 100% 12u "&Language of ${NAME}'s window:"
+    Pop $0
+    ${NSD_CreateDropList} 0 14u 60% 200u ""
+    Pop $LanguageList
+    SetShellVarContext current
+    ReadINIStr $1 "${SETTINGS}" settings language
+    SetShellVarContext all
+    ClearErrors
+    StrCpy $LanguageBefore "English"
+    StrCpy $2 ""
+    !insertmacro ListLanguages ListLanguage
+    ${If} $2 == ""
+        StrCpy $2 $LanguageBefore
+    ${EndIf}
+    ${NSD_CB_SelectString} $LanguageList "$2"
+    nsDialogs::Show
+FunctionEnd
+
+!macro TakeLanguage CODE NAME
+    ${If} $0 == "${NAME}"
+        StrCpy $SpokenLanguage "${CODE}"
+    ${EndIf}
+!macroend
+
+; What was left as it stood is not written: a vendor's branding may choose another language for those
+; who have no wish.
+Function KeepLanguage
+    ${NSD_GetText} $LanguageList $0
+    StrCpy $SpokenLanguage ""
+    ${If} $0 != $LanguageBefore
+        !insertmacro ListLanguages TakeLanguage
+    ${EndIf}
+FunctionEnd
+
+; Into the settings of who installs. An installation is whole without it.
+Function WriteLanguage
+    ${If} $SpokenLanguage != ""
+        SetShellVarContext current
+        CreateDirectory "$DOCUMENTS\Corvane\${NAME}"
+        WriteINIStr "${SETTINGS}" settings language "$SpokenLanguage"
+        SetShellVarContext all
+        ClearErrors
     ${EndIf}
 FunctionEnd
 
@@ -350,6 +429,7 @@ Section
     WriteRegStr HKLM "${UNINSTALL_KEY}" DisplayVersion "${VERSION}"
     !insertmacro AbortOnErrors
     !insertmacro SetPortAside add
+    Call WriteLanguage
 SectionEnd
 
 ; Takes back what was laid down before the section ended in failure: half a program is none. Where an
