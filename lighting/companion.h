@@ -5,6 +5,9 @@
 
 #include <optional>
 
+/// The key of the companion's segment, by which QSharedMemory finds it.
+const QString companionSegmentName = QStringLiteral("DashportSharedMem");
+
 /// The text in the companion's segment: a 32-bit byte length, then UTF-16 code units, both
 /// big-endian; whatever follows is not looked at.
 /// @return empty when the bytes hold less than the length says, or no whole code units

@@ -7,8 +7,6 @@
 
 namespace {
 
-const QString segmentName = QStringLiteral("DashportSharedMem");
-
 /// Enough for any text that the companion has; whoever publishes more does not make the window
 /// wait for it.
 constexpr int longestCopy = 1024 * 1024;
@@ -17,7 +15,7 @@ constexpr int longestCopy = 1024 * 1024;
 
 CompanionReader::CompanionReader(Platform &system)
     : platform(system)
-    , segment(segmentName)
+    , segment(companionSegmentName)
 {
     // The same segment by the name that takes no lock along: QSharedMemory would wait for the lock
     // where the platform does not.

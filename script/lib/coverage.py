@@ -14,7 +14,7 @@ import sys
 CORES_PERCENT = 100
 REST_PERCENT = 90
 
-COUNTED = ["app", "colorpicker", "examples", "lighting", "system", "ui"]
+COUNTED = ["app", "colorpicker", "companion", "examples", "lighting", "system", "ui"]
 NOT_COUNTED = [
     "system/testing/",  # stands for the system in tests
     "_windows.cpp",  # compiled for Windows only, where gcov does not count

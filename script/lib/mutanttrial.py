@@ -18,8 +18,9 @@ import time
 
 BUILD_SECONDS = 1800
 LARGEST_FILE = 1 << 28  # a change may print without end
-PROGRAMS = ["Lumikey", "lumikey-agent", "lumikey-minimal-agent", "recorder",
-            "companion-publisher", "settingswriter", "lumikey_testsupport"]
+PROGRAMS = ["Lumikey", "lumikey-agent", "lumikey-minimal-agent", "lumikey-brightness",
+            "lumikey-minimal-companion", "recorder", "companion-publisher",
+            "settingswriter", "lumikey_testsupport"]
 
 
 def adopt_orphans():

@@ -11,7 +11,7 @@ import pathlib
 import re
 import subprocess
 
-FOLDERS = ["app", "colorpicker", "examples/agent", "lighting", "system", "ui"]
+FOLDERS = ["app", "colorpicker", "companion", "examples/agent", "lighting", "system", "ui"]
 SUFFIXES = (".cpp", ".h", ".ui", ".qss")
 LEFT_OUT = [
     "system/testing/",  # stands for the system in tests

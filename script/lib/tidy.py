@@ -24,7 +24,7 @@ ELSEWHERE = re.compile(r"_windows\.cpp$|^packaging/|^tests/support/trialmachine\
                        r"|^tests/e2e/tst_(registry|session|taskbar)\.cpp$")
 TEST = re.compile(r"^tests/(unit|gui|e2e)/tst_\w+\.cpp$")
 # Of the sources of a group as of headers, without what is generated.
-LOOKED_AT = r"/(app|bench|colorpicker|examples|fuzz|lighting|system|tests|ui)" \
+LOOKED_AT = r"/(app|bench|colorpicker|companion|examples|fuzz|lighting|system|tests|ui)" \
             r"/([a-z0-9]+/)*[a-z0-9_]+\.(h|cpp)$"
 NOT_IN_NAMESPACE = re.compile(r"Q_DECLARE_METATYPE|(?<![\w>])::\w")
 PROBE = "int *probe()\n{\n    return 0;\n}\n"

@@ -1,0 +1,163 @@
+#include "companion/arguments.h"
+
+#include <QTest>
+
+using companion::decide;
+using companion::ExitCode;
+using companion::Notice;
+
+namespace {
+
+const QString version = QStringLiteral("7.8.9");
+
+QStringList commandLine(const QString &arguments)
+{
+    QStringList all{QStringLiteral("lumikey-brightness")};
+    if (!arguments.isNull()) {
+        all += arguments.split(QLatin1Char('|'));
+    }
+    return all;
+}
+
+} // namespace
+
+class TestBrightnessArguments : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void brightnesses_data();
+    void brightnesses();
+    void wrongUse_data();
+    void wrongUse();
+    void helpTellsEveryCode_data();
+    void helpTellsEveryCode();
+    void versionIsTold();
+    void eachCodeHasOneMeaning();
+};
+
+void TestBrightnessArguments::brightnesses_data()
+{
+    QTest::addColumn<QString>("arguments"); // with "|" between them
+    QTest::addColumn<int>("brightness");
+    const auto row = [](const char *arguments, int brightness) {
+        QTest::newRow(arguments) << QString::fromLatin1(arguments) << brightness;
+    };
+    row("0", 0);
+    row("1", 1);
+    row("40", 40);
+    row("99", 99);
+    row("100", 100);
+    row("007", 7);
+    row("0000000000000000000000100", 100);
+    row("-0", 0);
+    row("--|40", 40);
+}
+
+void TestBrightnessArguments::brightnesses()
+{
+    QFETCH(QString, arguments);
+    const auto decision = decide(commandLine(arguments), version);
+    QVERIFY(std::holds_alternative<int>(decision));
+    QTEST(std::get<int>(decision), "brightness");
+}
+
+void TestBrightnessArguments::wrongUse_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("what");
+    const auto row = [](const char *arguments, ExitCode code, const char *what) {
+        QTest::newRow(arguments) << QString::fromUtf8(arguments) << int(code)
+                                 << QString::fromUtf8(what);
+    };
+    QTest::newRow("nothing") << QString() << int(companion::NoNumber)
+                             << QStringLiteral("which brightness? Give a number from 0 to 100.");
+    row("--", companion::NoNumber, "which brightness?");
+    row("101", companion::TooLarge, "101 is too large: give a number from 0 to 100.");
+    row("4294967336", companion::TooLarge, "4294967336 is too large"); // 40 in 32 bits
+    row("99999999999999999999", companion::TooLarge, "99999999999999999999 is too large");
+    row("-1", companion::TooSmall, "-1 is too small: give a number from 0 to 100.");
+    row("--|-1", companion::TooSmall, "-1 is too small");
+    row("-99999999999999999999", companion::TooSmall, "-99999999999999999999 is too small");
+    row("40|50", companion::SeveralNumbers, "give one number from 0 to 100, not 2.");
+    row("40|40", companion::SeveralNumbers, "not 2.");
+    row("40|-1", companion::SeveralNumbers, "not 2.");
+    row("a|b|c", companion::SeveralNumbers, "not 3.");
+    row("", companion::NotANumber, "'' is no whole number from 0 to 100.");
+    row("forty", companion::NotANumber, "'forty' is no whole number from 0 to 100.");
+    row("40%", companion::NotANumber, "'40%' is no whole number");
+    row("+40", companion::NotANumber, "'+40' is no whole number");
+    row(" 40", companion::NotANumber, "' 40' is no whole number");
+    row("40 50", companion::NotANumber, "'40 50' is no whole number");
+    row("4.5", companion::NotANumber, "'4.5' is no whole number");
+    row("0x28", companion::NotANumber, "'0x28' is no whole number");
+    row("-5x", companion::NotANumber, "'-5x' is no whole number");
+    row("-", companion::NotANumber, "'-' is no whole number");
+    row("\u0664\u0660", companion::NotANumber, "'\u0664\u0660' is no whole number");
+    row("%1", companion::NotANumber, "'%1' is no whole number from 0 to 100.");
+    row("--brightness", companion::WrongOption, "brightness");
+    row("-x|40", companion::WrongOption, "x");
+    row("--help-all", companion::WrongOption, "help-all");
+}
+
+void TestBrightnessArguments::wrongUse()
+{
+    QFETCH(QString, arguments);
+    QFETCH(QString, what);
+    const auto decision = decide(commandLine(arguments), version);
+    QVERIFY(std::holds_alternative<Notice>(decision));
+    const auto &notice = std::get<Notice>(decision);
+    QTEST(int(notice.exitCode), "code");
+    QVERIFY2(notice.text.startsWith(QStringLiteral("lumikey-brightness: ")),
+             qPrintable(notice.text));
+    QVERIFY2(notice.text.contains(what), qPrintable(notice.text));
+    QVERIFY(notice.text.endsWith(QStringLiteral("\nTry lumikey-brightness --help.\n")));
+}
+
+void TestBrightnessArguments::helpTellsEveryCode_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::newRow("long") << QStringLiteral("--help");
+    QTest::newRow("short") << QStringLiteral("-h");
+    QTest::newRow("beside a number") << QStringLiteral("40|--help");
+    QTest::newRow("beside wrong ones") << QStringLiteral("-1|101|--help");
+}
+
+void TestBrightnessArguments::helpTellsEveryCode()
+{
+    QFETCH(QString, arguments);
+    const auto decision = decide(commandLine(arguments), version);
+    QVERIFY(std::holds_alternative<Notice>(decision));
+    const auto &notice = std::get<Notice>(decision);
+    QCOMPARE(notice.exitCode, companion::Done);
+    for (const companion::Meaning &meaning : companion::meanings) {
+        const QString line =
+            QStringLiteral("\n  %1  %2\n").arg(meaning.code).arg(QLatin1String(meaning.text));
+        QVERIFY2(notice.text.contains(line), qPrintable(line));
+    }
+    for (const char *part : {"[options] brightness", "-v, --version", "-h, --help"}) {
+        QVERIFY2(notice.text.contains(QLatin1String(part)), qPrintable(notice.text));
+    }
+}
+
+void TestBrightnessArguments::versionIsTold()
+{
+    for (const char *option : {"--version", "-v"}) {
+        const auto decision = decide(commandLine(QLatin1String(option)), version);
+        QVERIFY(std::holds_alternative<Notice>(decision));
+        QCOMPARE(std::get<Notice>(decision).exitCode, companion::Done);
+        QCOMPARE(std::get<Notice>(decision).text, QStringLiteral("lumikey-brightness 7.8.9\n"));
+    }
+}
+
+void TestBrightnessArguments::eachCodeHasOneMeaning()
+{
+    int code = 0;
+    for (const companion::Meaning &meaning : companion::meanings) {
+        QCOMPARE(int(meaning.code), code++);
+    }
+}
+
+QTEST_GUILESS_MAIN(TestBrightnessArguments)
+#include "tst_brightnessarguments.moc"
