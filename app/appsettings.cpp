@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QLockFile>
 #include <QStandardPaths>
+#include <QStorageInfo>
 
 #include <utility>
 
@@ -45,17 +46,10 @@ constexpr qint64 roomBesideTheFile = qint64{16} * 1024;
 /// process that took it, and the next write would wait for it for ever.
 bool hasRoom(const QString &path)
 {
-    QFile probe(path + QStringLiteral(".room"));
-    if (!probe.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
-        return true; // the folder cannot be written, but not for want of room: the write tells
-    }
-    const QByteArray block(roomBesideTheFile, 'x');
-    qint64 left = QFileInfo(path).size() + roomBesideTheFile;
-    while (left > 0 && probe.write(block) == block.size()) {
-        left -= block.size();
-    }
-    probe.remove();
-    return left <= 0;
+    const QFileInfo file(path);
+    const QStorageInfo disk(file.absolutePath());
+    // Of a folder that is not there, or a disk that does not tell its size, the write will tell.
+    return disk.bytesTotal() <= 0 || disk.bytesAvailable() >= file.size() + roomBesideTheFile;
 }
 
 /// An existing file that cannot be opened: QSettings itself stays silent about it when reading.
@@ -111,12 +105,21 @@ QVariant AppSettings::readSetting(const SettingKey &key) const
 
 void AppSettings::writeSetting(const SettingKey &key, const QVariant &value) const
 {
+    SettingsTogether alone;
+    alone.append(key, value);
+    write(alone);
+}
+
+void AppSettings::write(const SettingsTogether &together) const
+{
     QDir().mkpath(companyDirPath);
     if (!isReadyForWriting(WriteSettings, settingsIniPath)) {
         return;
     }
     const auto settings = openSettings();
-    settings->setValue(settingsPath(key), inStoredForm(key, value));
+    for (const auto &[path, value] : together.stored()) {
+        settings->setValue(path, value);
+    }
     settings->sync();
     report(WriteSettings, *settings);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/settingskeys.h"
+#include "app/settingstogether.h"
 
 #include <QSettings>
 #include <QString>
@@ -55,6 +56,9 @@ public:
     {
         writeWorkQueue(key, value);
     }
+
+    /// Stores all of them, in their order, or none.
+    void write(const SettingsTogether &together) const;
 
     /// The same, without touching a file that holds the very value: for what is stored again and
     /// again, where each write waits for the disk.

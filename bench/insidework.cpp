@@ -1,6 +1,7 @@
 #include "app/appsettings.h"
 #include "colorpicker/svpicture.h"
 #include "lighting/devicewords.h"
+#include "system/testing/filesmade.h"
 #include "tests/support/testwindow.h"
 #include "ui/keyboardpictures.h"
 #include "ui/mainwindow.h"
@@ -17,6 +18,7 @@
 // Work inside the program, each beside the plain way to do the same, in turns:
 //
 //   insidework square|step|write|foreign ROUNDS    one line a round: microseconds of both
+//   insidework written ROUNDS                      one line a round: files and bytes of both
 //   insidework changes COUNT                       one line a sample: changes so far, memory in KiB
 //
 // Ends with 1 where both ways do not come to the same result.
@@ -209,36 +211,87 @@ int step(int rounds)
     return 0;
 }
 
-/// One settings write through the program's own class and through QSettings alone, into two files
-/// of the same content.
+/// One settings file for the program's own class and one for QSettings alone, of the same content.
+class TwoFiles
+{
+public:
+    explicit TwoFiles(int foreign)
+        : foreignCount(foreign)
+    {
+        QByteArray content =
+            "[settings]\nbacklight_on=true\nbrightlevel=100\nZone4Color=0 120 255\n"
+            "Zone1Color=0 120 255\nZone2Color=0 120 255\nZone3Color=0 120 255\n[foreign]\n";
+        for (int key = 0; key < foreign; ++key) {
+            content += "key" + QByteArray::number(key) + "=value " + QByteArray::number(key) + '\n';
+        }
+        writeFile(settings.settingsIni(), content);
+        writeFile(plainFile, content);
+    }
+
+    void write(int brightness) const { settings.write(SettingKeys::brightLevel, brightness); }
+    void writePlainly(int brightness) const
+    {
+        QSettings plain(plainFile, QSettings::IniFormat);
+        plain.setValue(settingsPath(SettingKeys::brightLevel), brightness);
+    }
+    QString folderOf(bool plain) const
+    {
+        return QFileInfo(plain ? plainFile : settings.settingsIni()).path();
+    }
+    bool areEqual() const
+    {
+        const QSettings first(settings.settingsIni(), QSettings::IniFormat);
+        return first.allKeys().size() == foreignCount + 6
+               && readFile(settings.settingsIni()) == readFile(plainFile);
+    }
+
+private:
+    QTemporaryDir folder;
+    int foreignCount;
+    AppSettings settings{folder.path()};
+    QString plainFile = folder.filePath(QStringLiteral("plain/lumikey.ini"));
+};
+
 int write(int rounds, int pieces, int foreign)
 {
-    const QTemporaryDir folder;
-    const AppSettings settings(folder.path());
-    const QString plainFile = folder.filePath(QStringLiteral("plain.ini"));
-    QByteArray content = "[settings]\nbacklight_on=true\nbrightlevel=100\nZone4Color=0 120 255\n"
-                         "Zone1Color=0 120 255\nZone2Color=0 120 255\nZone3Color=0 120 255\n"
-                         "[foreign]\n";
-    for (int key = 0; key < foreign; ++key) {
-        content += "key" + QByteArray::number(key) + "=value " + QByteArray::number(key) + '\n';
-    }
-    writeFile(settings.settingsIni(), content);
-    writeFile(plainFile, content);
-
+    const TwoFiles files(foreign);
     inTurns(
-        rounds, pieces, [&](int piece) { settings.write(SettingKeys::brightLevel, piece); },
-        [&](int piece) {
-            QSettings plain(plainFile, QSettings::IniFormat);
-            plain.setValue(settingsPath(SettingKeys::brightLevel), piece);
-        });
-    const QSettings first(settings.settingsIni(), QSettings::IniFormat);
-    const QSettings second(plainFile, QSettings::IniFormat);
-    if (first.allKeys() != second.allKeys() || first.allKeys().size() != foreign + 6
-        || first.value(settingsPath(SettingKeys::brightLevel)).toInt() != pieces - 1) {
+        rounds, pieces, [&files](int piece) { files.write(piece); },
+        [&files](int piece) { files.writePlainly(piece); });
+    if (!files.areEqual()) {
         qCritical("the two ways of writing differ");
         return 1;
     }
     return 0;
+}
+
+/// What this process has written so far, to whatever.
+qint64 bytesWritten()
+{
+    const QList<QByteArray> lines = readFile(QStringLiteral("/proc/self/io")).split('\n');
+    for (const QByteArray &line : lines) {
+        if (line.startsWith("wchar:")) {
+            return line.simplified().split(' ').at(1).toLongLong();
+        }
+    }
+    qFatal("the system does not tell what a process writes");
+}
+
+int written(int rounds)
+{
+    const TwoFiles files(0);
+    const FilesMade made(files.folderOf(false));
+    const FilesMade madePlainly(files.folderOf(true));
+    for (int round = 1; round <= rounds; ++round) {
+        const qint64 before = bytesWritten();
+        files.write(round);
+        const qint64 between = bytesWritten();
+        files.writePlainly(round);
+        const qint64 after = bytesWritten();
+        out() << made.taken().size() << ' ' << madePlainly.taken().size() << ' ' << between - before
+              << ' ' << after - between << '\n';
+    }
+    return files.areEqual() ? 0 : 1;
 }
 
 /// The memory that is this process's alone, in KiB: what it shares with others comes and goes with
@@ -290,9 +343,12 @@ int main(int argc, char *argv[])
     if (figure == QLatin1String("foreign")) {
         return write(number, writes / 10, foreignKeys);
     }
+    if (figure == QLatin1String("written")) {
+        return written(number);
+    }
     if (figure == QLatin1String("changes")) {
         return changes(number);
     }
-    qCritical("usage: insidework square|step|write|foreign|changes NUMBER");
+    qCritical("usage: insidework square|step|write|foreign|written|changes NUMBER");
     return 2;
 }

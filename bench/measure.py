@@ -12,7 +12,8 @@ import statistics
 import sys
 
 sys.dont_write_bytecode = True
-from processes import LOADS, Bare, Idle, Program, answers, inside  # noqa: E402
+from processes import (LOADS, OFF_ANSWER, Bare, Idle, Program, answers, by_hand,  # noqa: E402
+                       inside)
 from tables import Row, markdown  # noqa: E402
 
 ROOT = pathlib.Path(__file__).resolve().parents[1]
@@ -28,6 +29,8 @@ class Runs:
         self.growth_ms = 150 if quick else 600
         self.idle_s = 5 if quick else 60
         self.changes = 5_000 if quick else 100_000
+        self.drags = 1 if quick else 3
+        self.clicks = 3 if quick else 15
 
 
 def pairs_row(name, unit, pairs, digits=1, **limit):
@@ -94,6 +97,38 @@ def write(runs):
     yield pairs_row("one settings write", "µs", inside("write", runs.rounds), at_most=1.1)
 
 
+def written(runs):
+    """Bytes and files, which tell what a write costs on any disk."""
+    taken = inside("written", runs.rounds)
+    yield pairs_row("files made by one settings write", "", [(p, b) for p, b, _, _ in taken], 0,
+                    at_most=1)
+    yield pairs_row("bytes written by one settings write", "B", [(p, b) for _, _, p, b in taken], 0,
+                    at_most=1)
+
+
+def slowdisk(runs):
+    """With a disk on which a file is safe after 10 ms."""
+    seconds, latencies, repaints, lost = [], [], [], 0
+    for _ in range(runs.drags):
+        [(took, painted)], asker = by_hand("drag")
+        seconds.append(took)
+        repaints.append(painted / took)
+        latencies += [(end - asked) * 1000 for asked, end, _ in asker.answers]
+        lost += asker.lost
+    yield Row("a drag of the slider for 4 s, slow disk", "s", max(seconds), None, None, 2,
+              program_at_most=4.4)
+    yield Row("99th percentile of an answer meanwhile", "ms",
+              statistics.quantiles(latencies, n=100)[-1], None, None, program_at_most=50)
+    yield Row("answers lost meanwhile", "", lost, None, None, 0, program_at_most=0)
+    yield Row("repaints meanwhile", "1/s", min(repaints), None, None, program_at_least=20)
+
+    clicks, asker = by_hand("click", runs.clicks)
+    until = [next(end for _, end, answer in asker.answers if end > at and answer != OFF_ANSWER) - at
+             for at, in clicks]
+    yield Row("a click on \"Enabled\" until an answer holds it, slow disk", "ms",
+              statistics.median(until) * 1000, None, None, program_at_most=30)
+
+
 def size(runs):
     del runs
     dist = ROOT / "build/windows/dist"
@@ -133,7 +168,7 @@ def changes(runs):
 
 
 TABLES = {
-    "Speed and cost": [serving, starting, idling, square, step, write, size],
+    "Speed and cost": [serving, starting, idling, square, step, write, written, slowdisk, size],
     "How cost grows": [clients, foreign, changes],
 }
 NAMES = [figure.__name__ for figures in TABLES.values() for figure in figures]

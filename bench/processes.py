@@ -5,8 +5,10 @@ import os
 import pathlib
 import shutil
 import socket
+import struct
 import subprocess
 import tempfile
+import threading
 import time
 
 ROOT = pathlib.Path(__file__).resolve().parents[1]
@@ -61,6 +63,9 @@ class Process:
     def __exit__(self, *_):
         self.process.terminate()
         self.process.wait()
+
+    def cpu_seconds(self):
+        return cpu_seconds(self.process.pid)
 
     def _wait_for_answer(self):
         end = time.monotonic() + START_LIMIT_SECONDS
@@ -141,6 +146,61 @@ def answers(server, clients, milliseconds):
                str(milliseconds)]
     result = subprocess.run(command, check=True, capture_output=True, text=True)
     return json.loads(result.stdout)
+
+
+OFF_LINE = ",".join(["3758108672"] * 4 + ["0"]).encode("utf-16-be")
+OFF_ANSWER = struct.pack(">HI", len(OFF_LINE) + 4, len(OFF_LINE)) + OFF_LINE
+
+
+class Asker(threading.Thread):
+    """An agent that asks again and again; each answer with when it was asked for and whole."""
+
+    PAUSE_SECONDS = 0.002
+
+    def __init__(self, port):
+        super().__init__()
+        self._port, self._done = port, threading.Event()
+        self.answers, self.lost = [], 0
+
+    def run(self):
+        while not self._done.is_set():
+            asked = time.monotonic()
+            try:
+                answer = self._ask()
+            except OSError:
+                answer = b""
+            if len(answer) < 6 or len(answer) != struct.unpack(">H", answer[:2])[0] + 2:
+                self.lost += 1
+            self.answers.append((asked, time.monotonic(), answer))
+            self._done.wait(self.PAUSE_SECONDS)
+
+    def _ask(self):
+        with socket.create_connection((ADDRESS, self._port), timeout=5) as connection:
+            answer = b""
+            while piece := connection.recv(4096):
+                answer += piece
+            return answer
+
+    def finish(self):
+        self._done.set()
+        self.join()
+
+
+def by_hand(work, *arguments):
+    """The window on a slow disk, used with the real pointer; the lines told, and what agents got
+    meanwhile."""
+    environment = dict(os.environ, LD_PRELOAD=str(BUILD / "bench/slowdisk.so"))
+    with subprocess.Popen([BUILD / "bench/handwork", work, *map(str, arguments)], text=True,
+                          env=environment, stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                          stderr=subprocess.DEVNULL) as hand:
+        asker = Asker(int(hand.stdout.readline()))
+        asker.start()
+        lines = [hand.stdout.readline() for _ in range(arguments[0] if arguments else 1)]
+        asker.finish()
+        hand.stdin.close()
+    if hand.returncode != 0:
+        raise RuntimeError(f"handwork {work} ended with {hand.returncode}")
+    return [tuple(float(word) for word in line.split()) for line in lines], asker
 
 
 def inside(figure, number, in_memory=False):

@@ -7,7 +7,8 @@ class Row:
     """What was measured. A value of None has not been built, which is told and is no failure."""
 
     def __init__(self, name, unit, program, baseline, ratio, digits=1, *,
-                 at_least=None, at_most=None, faster=None, program_at_most=None):
+                 at_least=None, at_most=None, faster=None, program_at_least=None,
+                 program_at_most=None):
         self.name, self.unit, self.digits = name, unit, digits
         self.program, self.baseline, self.ratio = program, baseline, ratio
         self.missed = False
@@ -22,6 +23,9 @@ class Row:
             limits.append(f"{faster} times faster")
             self.ratio = 1 / ratio
             self.require(self.ratio >= faster)
+        if program_at_least is not None:
+            limits.append(f"at least {program_at_least} {unit}".rstrip())
+            self.require(program is None or program >= program_at_least)
         if program_at_most is not None:
             limits.append(f"at most {program_at_most} {unit}".rstrip())
             self.require(program is None or program <= program_at_most)

@@ -27,6 +27,7 @@ MainWindow::MainWindow(AppSettings appSettings, Platform &system, PrimaryRole &r
     , platform(system)
     , primaryRole(role)
     , clock(std::move(systemClock))
+    , brightnessStore(settings)
     , companion(system)
     , eventFilterForResume(system)
     , unlockFilter(system)
@@ -34,6 +35,8 @@ MainWindow::MainWindow(AppSettings appSettings, Platform &system, PrimaryRole &r
     ToggleAccessible::install();
     ui->setupUi(this);
     new GrooveClick(ui->horizontalSlider);
+    connect(ui->horizontalSlider, &QSlider::sliderReleased, this,
+            [this] { brightnessStore.storeWaiting(); });
     // Tab goes round in a circle, and by the form the title's buttons stand in it right behind the
     // window itself, so that the first Tab would go to them. They belong at the end; Qt puts them
     // there when they come from another place.

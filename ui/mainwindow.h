@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/appsettings.h"
+#include "app/brightnessstore.h"
 #include "colorpicker/colorprocessor.h"
 #include "colorpicker/maincontroller.h"
 #include "lighting/autodim.h"
@@ -234,6 +235,7 @@ private:
     /// Settings are being loaded: the lighting slots neither store nor raise a wake.
     bool loadingSettings = true;
     DimState dim;
+    BrightnessStore brightnessStore;
     /// Slider value that brightnessapply() last acted on.
     qint32 lastAppliedBrightness = nothingApplied;
 

@@ -147,8 +147,9 @@ void MainWindow::on_pushButton_clicked()
     if (!picker.target) {
         return; // never opened
     }
+    SettingsTogether chosen;
     const auto keep = [&](ColourTarget target) {
-        settings.write(*rowOf(target).key, colour);
+        chosen.with(*rowOf(target).key, colour);
         lighting.*rowOf(target).colour = colour;
     };
     if (*picker.target == ColourTarget::Keyboard) {
@@ -157,10 +158,14 @@ void MainWindow::on_pushButton_clicked()
         }
         keep(ColourTarget::Keyboard);
         lighting.singleColorSelected = true;
-        settings.write(SettingKeys::singleColourLast, true);
+        chosen.with(SettingKeys::singleColourLast, true);
     } else {
         keep(*picker.target);
+        if (*picker.target != ColourTarget::Stripe && !loadingSettings) {
+            chosen.with(SettingKeys::singleColourLast, false);
+        }
     }
+    settings.write(chosen);
     setColour(*picker.target, colour);
 }
 

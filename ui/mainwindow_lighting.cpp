@@ -143,7 +143,7 @@ void MainWindow::on_horizontalSlider_valueChanged(int /*value*/)
     showBrightness(Messages::brightness);
     if (!dim.active) {
         dim.userBrightness = ui->horizontalSlider->value();
-        settings.write(SettingKeys::brightLevel, dim.userBrightness);
+        brightnessStore.choose(dim.userBrightness, ui->horizontalSlider->isSliderDown());
     }
 }
 
@@ -165,8 +165,9 @@ void MainWindow::on_backlight_off_clicked()
 {
     if (!loadingSettings && ui->backlight_off->isChecked()) {
         lighting.blacken();
-        settings.write(SettingKeys::backlightOff, true);
-        settings.write(SettingKeys::backlightOn, false);
+        settings.write(SettingsTogether()
+                           .with(SettingKeys::backlightOff, true)
+                           .with(SettingKeys::backlightOn, false));
     }
     enableWhatNeedsTheBacklight(false);
 }
@@ -177,8 +178,9 @@ void MainWindow::on_backlight_on_clicked()
         wake.wakePending = true;
         // The stripe deliberately stays black until its colour or the brightness changes.
         applyAllColours();
-        settings.write(SettingKeys::backlightOn, true);
-        settings.write(SettingKeys::backlightOff, false);
+        settings.write(SettingsTogether()
+                           .with(SettingKeys::backlightOn, true)
+                           .with(SettingKeys::backlightOff, false));
     }
     enableWhatNeedsTheBacklight(true);
 }

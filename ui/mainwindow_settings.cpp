@@ -151,13 +151,15 @@ void MainWindow::loadZoneColours()
 
 void MainWindow::ShutdownQuit()
 {
+    brightnessStore.storeWaiting();
     storeWindowPlace();
 }
 
 void MainWindow::storeWindowPlace()
 {
-    settings.write(SettingKeys::mainWindowGeometry, saveGeometry());
-    settings.write(SettingKeys::mainWindowState, saveState(0));
+    settings.write(SettingsTogether()
+                       .with(SettingKeys::mainWindowGeometry, saveGeometry())
+                       .with(SettingKeys::mainWindowState, saveState(0)));
 }
 
 void MainWindow::on_StartHidden_clicked()

@@ -25,7 +25,8 @@ constexpr int longestWaitMs = 10;
 /// The only file that the writer ever leaves: nothing else in it, nothing missing.
 QByteArray fileWith(int number)
 {
-    return "[settings]\nbrightlevel=" + QByteArray::number(number) + "\nkept=as it was\n";
+    const QByteArray text = QByteArray::number(number);
+    return "[settings]\nbrightlevel=" + text + "\ndimtimer=" + text + "\nkept=as it was\n";
 }
 
 QByteArray withPlainLineEnds(QByteArray text)

@@ -7,6 +7,9 @@
 #include <QWheelEvent>
 
 #include <cmath>
+#include <functional>
+
+Q_DECLARE_METATYPE(std::function<void(class TestBrightnessSlider &)>)
 
 /// The brightness by the pointer: a click in the groove goes there.
 class TestBrightnessSlider : public QObject
@@ -23,6 +26,10 @@ private slots:
     void otherButtonsPassBy();
     void disabledStays();
     void keysAndWheelStay();
+    void heldHandleIsStoredNowAndThen();
+    void heldHandleLosesNothing_data();
+    void heldHandleLosesNothing();
+    void othersAreStoredAtOnce();
 
 private:
     /// The handle as the style draws it.
@@ -42,6 +49,24 @@ private:
     {
         return {static_cast<int>(std::lround((slider->width() - 1) * share)), slider->height() / 2};
     }
+
+    /// Moves the pointer with the left button held down; no event loop runs meanwhile.
+    void drag(double share) const
+    {
+        const QPoint to = at(share);
+        QMouseEvent move(QEvent::MouseMove, to, slider->mapToGlobal(to), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(slider, &move);
+    }
+    void turnWheel() const
+    {
+        const QPoint middle = slider->rect().center();
+        QWheelEvent up(middle, slider->mapToGlobal(middle), {}, {0, 120}, Qt::NoButton,
+                       Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(slider, &up);
+    }
+    QString stored() const { return world->stored(SettingKeys::brightLevel); }
+    QString shown() const { return QString::number(slider->value()); }
 
     std::unique_ptr<TestWindow> world;
     QSlider *slider = nullptr;
@@ -83,7 +108,7 @@ void TestBrightnessSlider::clickInTheGroove()
     QTest::mouseClick(slider, Qt::LeftButton, {}, point);
     QVERIFY2(slider->value() >= lowest && slider->value() <= highest,
              qPrintable(QString::number(slider->value())));
-    QCOMPARE(world->stored(SettingKeys::brightLevel), QString::number(slider->value()));
+    QCOMPARE(stored(), shown());
     if (lowest != highest) {
         const int off = handle().center().x() - point.x();
         QVERIFY2(std::abs(off) <= 2, qPrintable(QString::number(off)));
@@ -96,13 +121,10 @@ void TestBrightnessSlider::dragOnFromThere()
 {
     QTest::mousePress(slider, Qt::LeftButton, {}, at(0.2));
     const int before = slider->value();
-    const QPoint to = at(0.4);
-    QMouseEvent move(QEvent::MouseMove, to, slider->mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
-                     Qt::NoModifier);
-    QApplication::sendEvent(slider, &move);
-    QTest::mouseRelease(slider, Qt::LeftButton, {}, to);
+    drag(0.4);
+    QTest::mouseRelease(slider, Qt::LeftButton, {}, at(0.4));
     QVERIFY(slider->value() > before + 15);
-    QVERIFY(std::abs(handle().center().x() - to.x()) <= 2);
+    QVERIFY(std::abs(handle().center().x() - at(0.4).x()) <= 2);
 }
 
 void TestBrightnessSlider::clickOnTheHandleChangesNothing()
@@ -132,10 +154,66 @@ void TestBrightnessSlider::keysAndWheelStay()
     QCOMPARE(slider->value(), 49);
     QTest::keyClick(slider, Qt::Key_PageUp);
     QCOMPARE(slider->value(), 50);
-    QWheelEvent up(slider->rect().center(), slider->mapToGlobal(slider->rect().center()), {},
-                   {0, 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(slider, &up);
+    turnWheel();
     QCOMPARE(slider->value(), 50 + std::min(slider->pageStep(), QApplication::wheelScrollLines()));
+}
+
+/// Each write waits for the disk, so of the steps that follow each other quickly one in a tenth of
+/// a second is stored.
+void TestBrightnessSlider::heldHandleIsStoredNowAndThen()
+{
+    QTest::mousePress(slider, Qt::LeftButton, {}, at(0.8));
+    const QString first = stored();
+    QCOMPARE(first, shown());
+    for (const double share : {0.7, 0.6, 0.5}) {
+        drag(share);
+        QVERIFY(shown() != first);
+        QCOMPARE(stored(), first);
+    }
+    QTRY_COMPARE(stored(), shown()); // the handle stands still, and is still held
+    drag(0.4);
+    QVERIFY(stored() != shown());
+    QTest::mouseRelease(slider, Qt::LeftButton, {}, at(0.4));
+    QCOMPARE(stored(), shown());
+}
+
+void TestBrightnessSlider::heldHandleLosesNothing_data()
+{
+    using End = std::function<void(TestBrightnessSlider &)>;
+    QTest::addColumn<End>("end");
+    const auto row = [](const char *name, const End &end) {
+        QTest::newRow(name) << end;
+    };
+    row("let go", [](TestBrightnessSlider &test) {
+        QTest::mouseRelease(test.slider, Qt::LeftButton, {}, test.at(0.3));
+    });
+    row("let go elsewhere", [](TestBrightnessSlider &test) {
+        QTest::mouseRelease(test.slider, Qt::LeftButton, {}, {test.slider->width() / 3, -500});
+    });
+    row("disabled", [](TestBrightnessSlider &test) { test.slider->setEnabled(false); });
+    row("the program ends", [](TestBrightnessSlider &test) { test.world->window->ShutdownQuit(); });
+}
+
+void TestBrightnessSlider::heldHandleLosesNothing()
+{
+    QFETCH(std::function<void(TestBrightnessSlider &)>, end);
+    QTest::mousePress(slider, Qt::LeftButton, {}, at(0.8));
+    drag(0.3);
+    QVERIFY(stored() != shown());
+    end(*this);
+    QCOMPARE(stored(), shown());
+}
+
+void TestBrightnessSlider::othersAreStoredAtOnce()
+{
+    for (int step = 0; step < 3; ++step) {
+        QTest::keyClick(slider, Qt::Key_Left);
+        QCOMPARE(stored(), shown());
+        turnWheel();
+        QCOMPARE(stored(), shown());
+        slider->setValue(10 * step); // as the companion application and screen readers do
+        QCOMPARE(stored(), shown());
+    }
 }
 
 QTEST_MAIN(TestBrightnessSlider)

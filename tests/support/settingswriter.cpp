@@ -2,7 +2,8 @@
 //
 //   settingswriter DOCUMENTS FIRST
 //
-// Stores FIRST, FIRST + 1 and so on under one key, and says each number before it stores it.
+// Stores FIRST, FIRST + 1 and so on under two keys at once, and says each number before it stores
+// it.
 
 #include "app/appsettings.h"
 
@@ -18,6 +19,8 @@ int main(int argc, char *argv[])
     for (int number = arguments.value(2).toInt();; ++number) {
         std::printf("%d\n", number);
         std::fflush(stdout);
-        settings.writeSetting(SettingKeys::brightLevel, number);
+        settings.write(SettingsTogether()
+                           .with(SettingKeys::brightLevel, number)
+                           .with(SettingKeys::dimTimer, number));
     }
 }

@@ -1,4 +1,5 @@
 #include "app/appsettings.h"
+#include "system/testing/filesmade.h"
 #include "tests/support/guitest.h"
 
 #include <QDir>
@@ -11,6 +12,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
 #include <memory>
 #include <type_traits>
 
@@ -71,6 +73,8 @@ private slots:
     void everyWriteIsOnDiskAtOnce();
     void whatTheFileHoldsIsKept_data();
     void whatTheFileHoldsIsKept();
+    void severalKeysAtOnce();
+    void noMoreFilesThanQSettingsMakes();
     void foreignKeysStay();
     void keyThatQtCannotWrite();
     void branding();
@@ -289,6 +293,55 @@ void TestAppSettings::whatTheFileHoldsIsKept()
     writeFile(settings->settingsIni(), before);
     settings->writeIfChanged(SettingKeys::autoDim, true);
     QTEST(settingsText().replace("\r\n", "\n"), "after");
+}
+
+/// As if they had been stored one by one, in one write. That nobody ever sees one without the other
+/// is seen where writers are killed.
+void TestAppSettings::severalKeysAtOnce()
+{
+    const QString colour = QStringLiteral("1 2 3");
+    const QTemporaryDir otherFolder;
+    const AppSettings oneByOne(otherFolder.path());
+    settings->write(SettingKeys::effects, 5);
+    oneByOne.write(SettingKeys::effects, 5);
+    oneByOne.write(SettingKeys::startHidden, true);
+    oneByOne.write(SettingKeys::effects, 3);
+    oneByOne.write(SettingKeys::leftColour, colour);
+
+    const FilesMade made(settings->companyDir());
+    settings->write(SettingsTogether()
+                        .with(SettingKeys::startHidden, true)
+                        .with(SettingKeys::effects, 3)
+                        .with(SettingKeys::leftColour, colour));
+    const auto sortedLines = [](const QByteArray &text) {
+        QList<QByteArray> lines = text.split('\n');
+        std::sort(lines.begin(), lines.end()); // systems differ in the order of new keys
+        return lines;
+    };
+    QCOMPARE(sortedLines(settingsText()), sortedLines(readFile(oneByOne.settingsIni())));
+    QVERIFY(settingsText().contains("Zone1Color=1 2 3"));
+    if (made.areTold()) {
+        QCOMPARE(made.taken().count(QStringLiteral("lumikey.ini.lock")), 1);
+    }
+}
+
+/// Whatever a write makes waits for the disk.
+void TestAppSettings::noMoreFilesThanQSettingsMakes()
+{
+    const QTemporaryDir otherFolder;
+    const QString plainFile = otherFolder.filePath(QStringLiteral("lumikey.ini"));
+    writeFile(plainFile, "[settings]\neffects=1\n");
+    writeFile(settings->settingsIni(), "[settings]\neffects=1\n");
+    const FilesMade made(settings->companyDir());
+    const FilesMade madePlainly(otherFolder.path());
+    settings->write(SettingKeys::effects, 5);
+    QSettings(plainFile, QSettings::IniFormat).setValue(settingsPath(SettingKeys::effects), 5);
+    QCOMPARE(made.taken().size(), madePlainly.taken().size());
+    const auto left = [](const QString &path) {
+        return QDir(path).entryList(QDir::Files | QDir::Hidden);
+    };
+    QCOMPARE(left(settings->companyDir()), QStringList(QStringLiteral("lumikey.ini")));
+    QCOMPARE(left(otherFolder.path()), QStringList(QStringLiteral("lumikey.ini")));
 }
 
 void TestAppSettings::foreignKeysStay()
