@@ -1,3 +1,4 @@
+#include "system/testing/roughhandling.h"
 #include "tests/support/programtwin.h"
 
 #include <QApplication>
@@ -10,13 +11,21 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <cstdio>
+#include <thread>
 
-// The window used with the real pointer, while agents ask it from outside:
+#include <time.h>
+
+// The window used with the real pointer, or by clients that come all at once, while an agent asks
+// it from outside:
 //
 //   handwork drag             one line: seconds from the press to the end of the release, repaints
 //   handwork click ROUNDS     one line a round: when the button was let go over "Enabled"
+//   handwork flood ROUNDS     20,000 clients that leave at once; one line a round: the longest turn
+//                             of the event loop, and the most computed in one
 //
 // First tells the port for agents, last waits for the end of its input. Times are seconds of the
 // system's steady clock.
@@ -27,6 +36,8 @@ constexpr int sweeps = 3;
 constexpr int movesOfASweep = 80; // so that each changes the brightness
 constexpr double dragSeconds = 4;
 constexpr int betweenClicksMs = 400;
+constexpr int clientsAtOnce = 20'000;
+constexpr int afterAFloodMs = 1000;
 
 QTextStream &out()
 {
@@ -38,6 +49,14 @@ double now()
 {
     return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch())
         .count();
+}
+
+/// Seconds for which this thread has computed.
+double computed()
+{
+    timespec time = {};
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
 }
 
 void wait(int milliseconds)
@@ -140,6 +159,41 @@ void click(const TestWindow &world, int rounds)
     }
 }
 
+void flood(const TestWindow &world, int rounds)
+{
+    const quint16 port = world.servicePort();
+    for (int round = 0; round < rounds; ++round) {
+        double longest = 0;
+        double last = now();
+        double mostComputed = 0;
+        double lastComputed = computed();
+        QTimer turns; // without an interval it would wait until there is nothing else
+        QObject::connect(&turns, &QTimer::timeout, [&] {
+            const double current = now();
+            longest = std::max(longest, current - last);
+            last = current;
+            const double currentComputed = computed();
+            mostComputed = std::max(mostComputed, currentComputed - lastComputed);
+            lastComputed = currentComputed;
+        });
+        turns.setTimerType(Qt::PreciseTimer);
+        turns.start(1);
+        std::atomic<bool> gone = false;
+        std::thread clients([&] {
+            RoughHandling::comeAndGo(world.endpoint.address, port, clientsAtOnce);
+            gone = true;
+        });
+        while (!gone) {
+            wait(10);
+        }
+        clients.join();
+        wait(afterAFloodMs);
+        turns.stop();
+        out() << longest << ' ' << mostComputed << '\n';
+        out().flush();
+    }
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -147,7 +201,7 @@ int main(int argc, char *argv[])
     const QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() < 2) {
-        qFatal("usage: handwork drag|click [ROUNDS]");
+        qFatal("usage: handwork drag|click|flood [ROUNDS]");
     }
     ProgramTwin::takeOnItsLooks();
     TestWindow world;
@@ -160,8 +214,10 @@ int main(int argc, char *argv[])
     out().flush();
     if (arguments.at(1) == QLatin1String("drag")) {
         drag(world);
-    } else {
+    } else if (arguments.at(1) == QLatin1String("click")) {
         click(world, arguments.value(2).toInt());
+    } else {
+        flood(world, arguments.value(2).toInt());
     }
     out().flush();
     // Agents are answered up to the end.

@@ -15,11 +15,14 @@
 
 #include <functional>
 
+#include <malloc.h>
+
 // Work inside the program, each beside the plain way to do the same, in turns:
 //
 //   insidework square|step|write|foreign ROUNDS    one line a round: microseconds of both
 //   insidework written ROUNDS                      one line a round: files and bytes of both
-//   insidework changes COUNT                       one line a sample: changes so far, memory in KiB
+//   insidework changes COUNT                       one line a sample: memory, and how much of the
+//                                                  heap is in use, in KiB
 //
 // Ends with 1 where both ways do not come to the same result.
 namespace {
@@ -307,6 +310,13 @@ qint64 ownMemory()
     qFatal("the system does not tell the memory of a process");
 }
 
+/// How much of that is in use, in KiB: the rest the allocator keeps for the next time.
+qint64 memoryInUse()
+{
+    const struct mallinfo2 heap = ::mallinfo2();
+    return static_cast<qint64>((heap.uordblks + heap.hblkhd) / 1024);
+}
+
 int changes(int count)
 {
     constexpr int samples = 100;
@@ -316,7 +326,7 @@ int changes(int count)
         window.setBrightness(change % brightnesses + 1);
         window.step();
         if (change % (count / samples) == 0) {
-            out() << change << ' ' << ownMemory() << '\n';
+            out() << ownMemory() << ' ' << memoryInUse() << '\n';
         }
     }
     return 0;

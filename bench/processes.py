@@ -90,8 +90,24 @@ class Process:
 
     def memory_kib(self):
         """Proportional share of the memory."""
+        return self._memory("Pss:")
+
+    def own_memory_kib(self):
+        """What no other process shares."""
+        return self._memory("Private_")
+
+    def _memory(self, kind):
         text = pathlib.Path(f"/proc/{self.process.pid}/smaps_rollup").read_text()
-        return next(int(line.split()[1]) for line in text.splitlines() if line.startswith("Pss:"))
+        return sum(int(line.split()[1]) for line in text.splitlines() if line.startswith(kind))
+
+
+def come_and_go(server, clients):
+    """Connects and closes without waiting for anything; then gives the server its time."""
+    for _ in range(clients):
+        with socket.socket() as client:
+            client.setblocking(False)
+            client.connect_ex((ADDRESS, server.port))
+    time.sleep(1)
 
 
 def program_world(folder, more_settings=""):
@@ -141,11 +157,14 @@ class Bare(Process):
 
 
 def answers(server, clients, milliseconds):
-    """What the load client tells of a server."""
+    """What the load client tells of a server, and the server's CPU time of an answer in µs."""
     command = [BUILD / "bench/loadclient", ADDRESS, str(server.port), str(clients),
                str(milliseconds)]
+    before = server.cpu_seconds()
     result = subprocess.run(command, check=True, capture_output=True, text=True)
-    return json.loads(result.stdout)
+    told = json.loads(result.stdout)
+    told["cpu"] = (server.cpu_seconds() - before) / told["answers"] * 1_000_000
+    return told
 
 
 OFF_LINE = ",".join(["3758108672"] * 4 + ["0"]).encode("utf-16-be")

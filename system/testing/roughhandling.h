@@ -14,6 +14,9 @@ void raiseHandleLimit();
 /// forbid it.
 bool setMoreHandlesAllowed(qint64 processId, bool allowed);
 
+/// Connects and closes so many times in a row, without waiting for anything in between.
+void comeAndGo(const char *address, quint16 port, int clients);
+
 /// Sends no more, and goes on reading.
 void shutDownWriting(qintptr socketDescriptor);
 

@@ -3,8 +3,11 @@
 #include <QDir>
 #include <QProcess>
 
+#include <arpa/inet.h>
+#include <netinet/in.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
+#include <unistd.h>
 
 void RoughHandling::raiseHandleLimit()
 {
@@ -31,6 +34,19 @@ bool RoughHandling::setMoreHandlesAllowed(qint64 processId, bool allowed)
     }
     limit.rlim_cur = allowed ? limit.rlim_max : lowestFree;
     return ::prlimit(process, RLIMIT_NOFILE, &limit, nullptr) == 0;
+}
+
+void RoughHandling::comeAndGo(const char *address, quint16 port, int clients)
+{
+    sockaddr_in server = {};
+    server.sin_family = AF_INET;
+    server.sin_port = htons(port);
+    server.sin_addr.s_addr = ::inet_addr(address);
+    for (int client = 0; client < clients; ++client) {
+        const int socket = ::socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
+        ::connect(socket, reinterpret_cast<const sockaddr *>(&server), sizeof server);
+        ::close(socket);
+    }
 }
 
 void RoughHandling::shutDownWriting(qintptr socketDescriptor)

@@ -13,6 +13,21 @@ bool RoughHandling::setMoreHandlesAllowed(qint64 /*processId*/, bool /*allowed*/
     return false;
 }
 
+void RoughHandling::comeAndGo(const char *address, quint16 port, int clients)
+{
+    sockaddr_in server = {};
+    server.sin_family = AF_INET;
+    server.sin_port = htons(port);
+    server.sin_addr.s_addr = ::inet_addr(address);
+    for (int client = 0; client < clients; ++client) {
+        const SOCKET socket = ::socket(AF_INET, SOCK_STREAM, 0);
+        u_long unblocked = 1;
+        ::ioctlsocket(socket, FIONBIO, &unblocked);
+        ::connect(socket, reinterpret_cast<const sockaddr *>(&server), sizeof server);
+        ::closesocket(socket);
+    }
+}
+
 void RoughHandling::shutDownWriting(qintptr socketDescriptor)
 {
     ::shutdown(static_cast<SOCKET>(socketDescriptor), SD_SEND);
