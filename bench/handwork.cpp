@@ -15,9 +15,8 @@
 #include <atomic>
 #include <chrono>
 #include <cstdio>
+#include <ctime>
 #include <thread>
-
-#include <time.h>
 
 // The window used with the real pointer, or by clients that come all at once, while an agent asks
 // it from outside:
