@@ -1,8 +1,8 @@
-#include "app/startup.h"
 #include "clipping.h"
+#include "tests/gui/dpisizes.h"
+#include "tests/gui/dpitest.h"
 #include "tests/support/testwindow.h"
 #include "ui/colourhub.h"
-#include "ui/darkstyle.h"
 #include "ui/dpibands.h"
 #include "updateworld.h"
 
@@ -10,7 +10,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDesktopWidget>
 #include <QLabel>
 #include <QLayout>
 #include <QRadioButton>
@@ -19,66 +18,7 @@
 #include <QTabWidget>
 #include <QTest>
 
-namespace {
-
-/// What the window must come to on one side or the other of a band's border; -1 where the form
-/// keeps its own. Written out apart from the program's table.
-struct Expected
-{
-    int lowest;
-    int highest;
-    QSize window;
-    int title;
-    int firstControls;
-    int secondControls;
-    QSize full;
-    QSize stripe;
-    QSize zone;
-    int colourButton;
-    int bar;
-    int frame;
-    int pageSpacer;
-    int settingsSpacer;
-};
-
-constexpr QSize formZone{145, 95};
-constexpr QSize formPicture{310, 95};
-constexpr std::array table{
-    Expected{1, 96, {600, 630}, 25, 0, 30, formPicture, formPicture, formZone, 40, 50, 90, 8, 2},
-    Expected{97, 120, {620, 680}, 30, 30, 30, formPicture, formPicture, formZone, 40, 50, 90, 8, 2},
-    Expected{
-        121, 144, {720, 780}, 34, 34, 34, {330, 115}, {330, 115}, {165, 115}, 40, 70, 110, 20, 1},
-    Expected{
-        145, 168, {800, 890}, 38, 38, 38, {340, 125}, {340, 125}, {175, 125}, 40, 75, 140, 25, 2},
-    Expected{
-        169, 192, {900, 960}, 42, 42, 42, {360, 145}, {360, 145}, {195, 145}, 50, 75, 140, 30, 2},
-    Expected{
-        193, 216, {920, 1010}, 48, 48, 48, {360, 145}, {370, 155}, {205, 155}, 50, 75, 150, 30, 2},
-    Expected{
-        217, 240, {980, 1050}, 48, 48, 48, {420, 155}, {380, 155}, {225, 155}, 50, 75, 160, 30, 3},
-    Expected{241, 287, {630, 630}, 25, 0, 30, formPicture, formPicture, formZone, 40, 50, 90, 8, 2},
-    Expected{
-        288, 335, {1200, 1250}, 52, 52, 52, {440, 165}, {400, 165}, {245, 165}, 60, 75, 180, 45, 3},
-    Expected{
-        336, 999, {1200, 1250}, 56, 56, 56, {440, 165}, {400, 165}, {245, 165}, 60, 75, 180, 45, 3},
-};
-
-int dpi()
-{
-    return QApplication::desktop()->logicalDpiX();
-}
-
-const Expected &expected()
-{
-    for (const Expected &row : table) {
-        if (dpi() <= row.highest) {
-            return row;
-        }
-    }
-    qFatal("no row for this DPI");
-}
-
-} // namespace
+using namespace DpiSizes;
 
 /// Run once for each DPI that counts, which CTest sets.
 class TestDpiFixes : public QObject
@@ -86,7 +26,7 @@ class TestDpiFixes : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase() { DpiTest::takeOnLooks(); }
     void init();
     void cleanup();
 
@@ -113,19 +53,6 @@ private:
 
     std::unique_ptr<TestWindow> world;
 };
-
-void TestDpiFixes::initTestCase()
-{
-    if (qEnvironmentVariableIsSet("LUMIKEY_TEST_DPI")) {
-        QCOMPARE(dpi(), qEnvironmentVariableIntValue("LUMIKEY_TEST_DPI"));
-    }
-    QApplication::setStyle(new DarkStyle);
-    if (const auto pixelSize = fontPixelSize(dpi())) { // as at the start of the program
-        QFont font = QApplication::font();
-        font.setPixelSize(*pixelSize);
-        QApplication::setFont(font);
-    }
-}
 
 void TestDpiFixes::init()
 {
@@ -327,7 +254,7 @@ void TestDpiFixes::pagesAlign()
 void TestDpiFixes::pickerAtTheTop()
 {
     if (expected().window == QSize(630, 630)) {
-        QSKIP("In the gap the form's sizes are too small for the font, on purpose.");
+        QSKIP(DpiTest::tooSmallInTheGap);
     }
     world->window->show();
     QVERIFY(QTest::qWaitForWindowExposed(world->window.get()));
@@ -359,7 +286,7 @@ void TestDpiFixes::pickerAtTheTop()
 void TestDpiFixes::columnsBeginOnCommonLines()
 {
     if (expected().window == QSize(630, 630)) {
-        QSKIP("In the gap the form's sizes are too small for the font, on purpose.");
+        QSKIP(DpiTest::tooSmallInTheGap);
     }
     MainWindow &window = *world->window;
     window.show();
@@ -406,7 +333,7 @@ void TestDpiFixes::columnsBeginOnCommonLines()
 void TestDpiFixes::effectNoteInTheMiddle()
 {
     if (expected().window == QSize(630, 630)) {
-        QSKIP("In the gap the form's sizes are too small for the font, on purpose.");
+        QSKIP(DpiTest::tooSmallInTheGap);
     }
     world->window->show();
     QVERIFY(QTest::qWaitForWindowExposed(world->window.get()));
@@ -447,7 +374,7 @@ void TestDpiFixes::showsEverything_data()
 void TestDpiFixes::showsEverything()
 {
     if (expected().window == QSize(630, 630)) {
-        QSKIP("In the gap the form's sizes are too small for the font, on purpose.");
+        QSKIP(DpiTest::tooSmallInTheGap);
     }
     QFETCH(int, zonePage);
     QFETCH(int, settingsPage);
@@ -509,12 +436,9 @@ void TestDpiFixes::updateAtStartShowsEverything()
     QCOMPARE(clipped.join(QStringLiteral("; ")), QString());
 }
 
-// Unlike QTEST_MAIN, leaves the style's own lengths to the DPI.
 int main(int argc, char **argv)
 {
-    const QApplication application(argc, argv);
-    TestDpiFixes test;
-    return QTest::qExec(&test, argc, argv);
+    return DpiTest::run<TestDpiFixes>(argc, argv);
 }
 
 #include "tst_dpifixes.moc"

@@ -1,8 +1,7 @@
-#include "app/startup.h"
 #include "app/translation.h"
 #include "clipping.h"
+#include "tests/gui/dpitest.h"
 #include "tests/support/testwindow.h"
-#include "ui/darkstyle.h"
 #include "ui/dpibands.h"
 #include "ui/messages.h"
 #include "ui/texts.h"
@@ -11,7 +10,6 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
-#include <QDesktopWidget>
 #include <QLabel>
 #include <QStatusBar>
 #include <QTabBar>
@@ -19,11 +17,6 @@
 #include <QTest>
 
 namespace {
-
-int dpi()
-{
-    return QApplication::desktop()->logicalDpiX();
-}
 
 /// Tabs that stick out of their bar, where Qt would offer to scroll.
 QStringList hiddenTabs(const QTabWidget &tabs)
@@ -50,7 +43,7 @@ class TestLanguageSizes : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase() { DpiTest::takeOnLooks(); }
     void cleanup();
 
     void showsEverything_data();
@@ -66,19 +59,6 @@ private:
     std::unique_ptr<TestWindow> world;
     QStringList problems;
 };
-
-void TestLanguageSizes::initTestCase()
-{
-    if (qEnvironmentVariableIsSet("LUMIKEY_TEST_DPI")) {
-        QCOMPARE(dpi(), qEnvironmentVariableIntValue("LUMIKEY_TEST_DPI"));
-    }
-    QApplication::setStyle(new DarkStyle);
-    if (const auto pixelSize = fontPixelSize(dpi())) { // as at the start of the program
-        QFont font = QApplication::font();
-        font.setPixelSize(*pixelSize);
-        QApplication::setFont(font);
-    }
-}
 
 void TestLanguageSizes::cleanup()
 {
@@ -103,7 +83,7 @@ void TestLanguageSizes::show()
     window.show();
     // Where the band does not give the least size for all texts, the window has grown with them, as
     // far as the screen allowed: here no screen is too small.
-    window.resize(dpiBand(dpi()).changesEverything()
+    window.resize(dpiBand(DpiTest::dpi()).changesEverything()
                       ? window.minimumSizeHint().expandedTo(window.minimumSize())
                       : window.minimumSize());
 }
@@ -130,8 +110,8 @@ void TestLanguageSizes::look(const char *what)
 
 void TestLanguageSizes::showsEverything()
 {
-    if (!dpiBand(dpi()).windowMinimum.isValid()) {
-        QSKIP("In the gap the form's sizes are too small for the font, on purpose.");
+    if (!dpiBand(DpiTest::dpi()).windowMinimum.isValid()) {
+        QSKIP(DpiTest::tooSmallInTheGap);
     }
     QFETCH(QString, code);
     translation = Translation::load(Translation::builtInFolder(), code);
@@ -198,12 +178,9 @@ void TestLanguageSizes::showsEverything()
     QVERIFY2(problems.isEmpty(), qPrintable(problems.join(QLatin1Char('\n'))));
 }
 
-// Unlike QTEST_MAIN, leaves the style's own lengths to the DPI.
 int main(int argc, char **argv)
 {
-    const QApplication application(argc, argv);
-    TestLanguageSizes test;
-    return QTest::qExec(&test, argc, argv);
+    return DpiTest::run<TestLanguageSizes>(argc, argv);
 }
 
 #include "tst_languagesizes.moc"
