@@ -77,11 +77,6 @@ void ServiceServer::answer(const std::function<QString()> &line)
     acceptingFailed = false;
     connect(client, SIGNAL(disconnected()), client, SLOT(deleteLater()));
     client->write(frameLine(line()));
-    // What is sent by now need not be waited for: the event loop is spared a round for each client.
-    client->flush();
-    // What the client has sent is taken in, and never looked at: closed with that unread, the
-    // connection would be reset, and its answer lost with it.
-    client->waitForReadyRead(0);
     client->disconnectFromHost();
     if (client->state() == QAbstractSocket::UnconnectedState) {
         client->deleteLater(); // already gone, so disconnected() may have been missed

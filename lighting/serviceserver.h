@@ -24,7 +24,7 @@ public:
     void start();
 
     /// Sends the frame of a line to the client that has waited longest and closes its connection.
-    /// Looks at nothing that it sends and waits for nothing.
+    /// Reads nothing from it and waits for nothing.
     /// @param line called once for the client; not at all where none waits
     void answer(const std::function<QString()> &line);
 
