@@ -37,8 +37,8 @@ void Poller::take()
 {
     const Outcome outcome = request->outcome();
     request.reset();
-    const bool silentBefore = closedSilently;
-    closedSilently = outcome.result == Outcome::Result::ClosedSilently;
+    const bool silentBefore = silent;
+    silent = outcome.result == Outcome::Result::Silent;
 
     switch (outcome.result) {
     case Outcome::Result::Answered:
@@ -50,9 +50,10 @@ void Poller::take()
     case Outcome::Result::Malformed:
         takeMalformed(outcome.reason);
         break;
-    case Outcome::Result::ClosedSilently:
-        // A program that is just ending drops the connections it has not answered. The next tick
-        // tells a server that has gone from one that sends nothing.
+    case Outcome::Result::Silent:
+        // A program that is just ending drops the connections it has not answered, and a machine
+        // that fell asleep meanwhile may not even tell. The next tick tells a server that has gone
+        // from one that sends nothing.
         if (silentBefore) {
             takeMalformed(outcome.reason);
         }

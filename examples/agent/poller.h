@@ -35,7 +35,7 @@ private:
     std::unique_ptr<Request> request;
     bool serverSeen = false;
     bool absenceTold = false;
-    bool closedSilently = false;
+    bool silent = false;
 };
 
 } // namespace agent

@@ -46,7 +46,7 @@ void Request::closed()
 {
     read();
     if (bytes.isEmpty()) {
-        finish(Outcome::Result::ClosedSilently,
+        finish(Outcome::Result::Silent,
                QStringLiteral("the server closed the connection without sending a byte"));
         return;
     }
@@ -77,7 +77,7 @@ void Request::timedOut()
         malformed != nullptr
             ? malformed->why
             : QStringLiteral("the text is complete, but the server's close is missing");
-    finish(Outcome::Result::Malformed,
+    finish(bytes.isEmpty() ? Outcome::Result::Silent : Outcome::Result::Malformed,
            QStringLiteral("%1 after the time limit of %2 ms").arg(what).arg(limit.interval()));
 }
 

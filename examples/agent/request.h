@@ -14,10 +14,10 @@ namespace agent {
 struct Outcome
 {
     enum class Result {
-        Answered,       ///< `answer` holds the words
-        Malformed,      ///< `reason` says what broke the wire format or the time limit
-        NoServer,       ///< nobody accepted the connection; `reason` is the system's text
-        ClosedSilently, ///< the server closed without a single byte; `reason` says so
+        Answered,  ///< `answer` holds the words
+        Malformed, ///< `reason` says what broke the wire format or the time limit
+        NoServer,  ///< nobody accepted the connection; `reason` is the system's text
+        Silent,    ///< not a single byte before the close or the time limit; `reason` says which
     };
     Result result = Result::NoServer;
     Answer answer;

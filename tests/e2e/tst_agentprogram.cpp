@@ -59,6 +59,7 @@ private slots:
     void vanishedServer();
     void connectionDroppedByAnEndingServer();
     void singleConnectionsDropped();
+    void singleConnectionsUnanswered();
     void outputThatCannotBeWritten();
     void coloursInATerminal_data();
     void coloursInATerminal();
@@ -369,6 +370,18 @@ void TestAgentProgram::singleConnectionsDropped()
     QCOMPARE(agent.errors(), QString());
 }
 
+void TestAgentProgram::singleConnectionsUnanswered()
+{
+    const Server::Reply never{QByteArray(), false, false};
+    server->replies = {never, {frame(normalText)}, never, {frame(normalText)}};
+    QVERIFY(server->listen());
+    Agent agent({QStringLiteral("--wait"), QStringLiteral("--period"), QStringLiteral("20"),
+                 QStringLiteral("--timeout"), QStringLiteral("1000")});
+    QTRY_VERIFY(server->times.size() >= 6);
+    QVERIFY(agent.running());
+    QCOMPARE(agent.errors(), QString());
+}
+
 void TestAgentProgram::outputThatCannotBeWritten()
 {
     const QString full = QStringLiteral("/dev/full");
@@ -446,7 +459,8 @@ void TestAgentProgram::waitsAgainWhenTheServerVanishes()
     QTRY_COMPARE(agent.output(), normalLine);
 
     server->stop();
-    QTRY_VERIFY(agent.errors().endsWith(QStringLiteral("; waiting for Lumikey\n")));
+    QTRY_VERIFY2(agent.errors().endsWith(QStringLiteral("; waiting for Lumikey\n")),
+                 qPrintable(agent.errors()));
     QVERIFY(agent.errors().contains(QStringLiteral("has gone (")));
     QVERIFY(agent.running());
 
@@ -458,7 +472,8 @@ void TestAgentProgram::waitsAgainWhenTheServerVanishes()
 
     // And so is the next absence.
     server->stop();
-    QTRY_COMPARE(agent.errors().count(QStringLiteral("has gone (")), 2);
+    QTRY_VERIFY2(agent.errors().count(QStringLiteral("has gone (")) == 2,
+                 qPrintable(agent.errors()));
 }
 
 QTEST_GUILESS_MAIN(TestAgentProgram)
