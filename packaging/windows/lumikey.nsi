@@ -6,6 +6,7 @@
 ;   FILES              the list of DIST's files and folders, as macros
 ;   LANGUAGES          the list of the program's languages, as a macro
 ;   COMPRESSOR, OUTPUT how to pack, and the installer's own file
+;   SIGN               what signs the uninstaller; only where there is a certificate
 ;
 ; Exit codes: 0 done, 1 given up by the user, 2 failed (a file could not be written or taken away),
 ; 3 a newer version is installed, 4 the folder is refused, 5 the running program could not be ended,
@@ -45,6 +46,9 @@ ManifestSupportedOS all
 
 Name "${NAME}"
 OutFile "${OUTPUT}"
+!ifdef SIGN
+    !uninstfinalize '"${SIGN}" "%1"' = 0
+!endif
 InstallDir "${DEFAULT_FOLDER}"
 BrandingText "${NAME} ${VERSION}"
 ShowInstDetails nevershow

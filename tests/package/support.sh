@@ -51,6 +51,10 @@ is() { [ "$1" = "$2" ] || { printf '        %q, not %q\n' "$1" "$2"; return 1; }
 # A user, a display and a Wine prefix that nobody has used.
 make_world() {
     make_scratch
+    enter_world
+}
+# The same where there is a scratch folder.
+enter_world() {
     throw_away_home
     export TMPDIR=$scratch/tmp
     mkdir -p "$TMPDIR" "$HOME/Documents"
