@@ -1,6 +1,7 @@
 #include "app/appsettings.h"
 #include "system/testing/filesmade.h"
 #include "tests/support/guitest.h"
+#include "tests/unit/settingsfixture.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -9,7 +10,6 @@
 #include <QTest>
 
 #include <algorithm>
-#include <memory>
 #include <type_traits>
 
 Q_DECLARE_METATYPE(SettingKey)
@@ -41,13 +41,13 @@ static_assert(!canWrite<Key<int, IniFile::Branding>, int>);
 
 } // namespace
 
-class TestAppSettings : public QObject
+class TestAppSettings : public QObject, protected SettingsFixture
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { enter(); }
+    void cleanup() { leave(); }
     void paths();
     void defaultFolderIsTheDocuments();
     void missingKeysReadAsNothing();
@@ -69,30 +69,7 @@ private slots:
     void branding();
     void missingBranding();
     void workQueue();
-
-private:
-    QByteArray settingsText() const { return readFile(settings->settingsIni()); }
-
-    std::unique_ptr<QTemporaryDir> folder;
-    std::unique_ptr<AppSettings> settings;
-    QString startDirectory;
 };
-
-void TestAppSettings::init()
-{
-    folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(folder->isValid());
-    startDirectory = QDir::currentPath();
-    QVERIFY(QDir::setCurrent(folder->path()));
-    settings = std::make_unique<AppSettings>(folder->filePath(QStringLiteral("Documents")));
-}
-
-void TestAppSettings::cleanup()
-{
-    QVERIFY(QDir::setCurrent(startDirectory));
-    settings.reset();
-    folder.reset();
-}
 
 void TestAppSettings::paths()
 {

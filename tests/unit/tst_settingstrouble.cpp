@@ -1,5 +1,6 @@
 #include "app/appsettings.h"
 #include "tests/support/guitest.h"
+#include "tests/unit/settingsfixture.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -9,8 +10,6 @@
 #include <QSysInfo>
 #include <QTemporaryDir>
 #include <QTest>
-
-#include <memory>
 
 namespace {
 
@@ -24,13 +23,13 @@ const QString smallDisk = [] {
 } // namespace
 
 /// Settings files that are damaged, in the way, held by others, or on a disk that is full.
-class TestSettingsTrouble : public QObject
+class TestSettingsTrouble : public QObject, protected SettingsFixture
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { enter(); }
+    void cleanup() { leave(); }
     void directoryInPlaceOfTheWorkQueue();
     void badSettings_data();
     void badSettings();
@@ -46,30 +45,7 @@ private slots:
     void lockLeftByAKilledWriter_data();
     void lockLeftByAKilledWriter();
     void badBrandingIsLeftAlone();
-
-private:
-    QByteArray settingsText() const { return readFile(settings->settingsIni()); }
-
-    std::unique_ptr<QTemporaryDir> folder;
-    std::unique_ptr<AppSettings> settings;
-    QString startDirectory;
 };
-
-void TestSettingsTrouble::init()
-{
-    folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(folder->isValid());
-    startDirectory = QDir::currentPath();
-    QVERIFY(QDir::setCurrent(folder->path()));
-    settings = std::make_unique<AppSettings>(folder->filePath(QStringLiteral("Documents")));
-}
-
-void TestSettingsTrouble::cleanup()
-{
-    QVERIFY(QDir::setCurrent(startDirectory));
-    settings.reset();
-    folder.reset();
-}
 
 void TestSettingsTrouble::directoryInPlaceOfTheWorkQueue()
 {
