@@ -76,6 +76,8 @@ int main(int argc, char *argv[])
     // At each change of the display's scale Qt asks anew whether to scale, by the attribute below,
     // too. The window adapts itself, once, so the answer stays no.
     QCoreApplication::setAttribute(Qt::AA_DisableHighDpiScaling);
+    // Nothing here is drawn by OpenGL; left to itself, Qt's first window on Linux loads its driver.
+    QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets);
     SingleApplication application(argc, argv, false, SingleApplication::PerUser, instanceTimeoutMs,
                                   *platform);
     findBranding(*platform);

@@ -1,4 +1,5 @@
 #include "system/testing/desktop.h"
+#include "system/testing/loadedlibraries.h"
 #include "tests/e2e/programlines.h"
 #include "tests/support/guitest.h"
 #include "tests/support/programprocess.h"
@@ -13,6 +14,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QTcpServer>
 #include <QTest>
 
@@ -33,6 +35,7 @@ private slots:
     void hiddenStart();
     void portTaken();
     void agentUnderstandsTheProgram();
+    void loadsNoOpenGl();
 
 private:
     /// Starts with @p settings and waits until they are applied and the window is shown.
@@ -200,6 +203,20 @@ void TestProgram::agentUnderstandsTheProgram()
     QCOMPARE(object.value(QStringLiteral("kind")).toString(), QStringLiteral("normal"));
     QCOMPARE(object.value(QStringLiteral("words")).toArray().first().toVariant().toULongLong(),
              4026597120ULL);
+}
+
+/// A system's driver for it is most of the memory of a small window, and of the time that it takes
+/// to start.
+void TestProgram::loadsNoOpenGl()
+{
+    startShown();
+    const QStringList loaded = loadedLibraries(program->process.processId());
+    QVERIFY(!loaded.filter(QStringLiteral("Qt5Gui")).isEmpty());
+    // Not opengl32: Wine's Direct3D, which Qt for Windows links, loads it. Makers' drivers count.
+    const QRegularExpression driver(
+        QStringLiteral("(glx|egl)-integration|libGLX_|^(nvoglv|atio|atig|ig\\w*icd)\\w*\\.dll"),
+        QRegularExpression::CaseInsensitiveOption);
+    QCOMPARE(loaded.filter(driver), QStringList());
 }
 
 QTEST_MAIN(TestProgram)
