@@ -19,6 +19,16 @@ QString pictureFile(KeyboardPicture picture)
     return QStringLiteral("branding/stripe_lidled.png");
 }
 
+const QPixmap &KeyboardPictures::of(KeyboardPicture picture)
+{
+    QPixmap &kept =
+        decoded.at(static_cast<size_t>(picture) - static_cast<size_t>(KeyboardPicture::Left));
+    if (kept.isNull()) {
+        kept = QPixmap(pictureFile(picture));
+    }
+    return kept;
+}
+
 QColor tintColour(const ColourComponents &components, int alpha)
 {
     const auto isChannel = [](int value) {

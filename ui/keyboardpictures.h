@@ -6,11 +6,26 @@
 #include <QPixmap>
 #include <QString>
 
+#include <array>
+
 /// The preview pictures of the window.
 enum class KeyboardPicture { Left = 1, Centre = 2, Right = 3, Full = 4, Stripe = 5 };
 
 /// File of a picture, relative to the current directory; empty for an unknown number.
 QString pictureFile(KeyboardPicture picture);
+
+/// The pictures as their files have them. Each is decoded once, when first asked for, and kept:
+/// Qt's own cache lets a picture go after half a minute, and the next one would then be a second
+/// copy beside that of the style sheet.
+class KeyboardPictures
+{
+public:
+    /// Null where the file is missing or no picture; it is looked for again the next time.
+    const QPixmap &of(KeyboardPicture picture);
+
+private:
+    std::array<QPixmap, 5> decoded; ///< in the order of KeyboardPicture
+};
 
 /// The colour that a picture is filled with. Components outside 0..255, which a stored text like
 /// "300 0 0" can hold, are no colour: the shape is then shown in solid black, so that the preview

@@ -12,6 +12,7 @@
 #include "lighting/serviceendpoint.h"
 #include "lighting/unlockfilter.h"
 #include "system/types.h"
+#include "ui/keyboardpictures.h"
 #include "ui/lastinput.h"
 
 #include <QMainWindow>
@@ -227,6 +228,7 @@ private:
     PrimaryRole &primaryRole;
     Clock clock;
 
+    KeyboardPictures previewPictures;
     LightingState lighting;
     WakeSequence wake;
     QString commandLine;

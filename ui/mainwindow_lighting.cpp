@@ -83,7 +83,7 @@ void MainWindow::showUncoloured(const ColourTargetRow &row)
 
 void MainWindow::showPreview(const ColourTargetRow &row, const QColor &tint)
 {
-    (*ui.*row.preview)->setPixmap(tinted(QPixmap(pictureFile(row.picture)), tint));
+    (*ui.*row.preview)->setPixmap(tinted(previewPictures.of(row.picture), tint));
 }
 
 void MainWindow::rememberSingleColour(bool selected)

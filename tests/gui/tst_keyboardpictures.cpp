@@ -3,6 +3,7 @@
 #include "tests/support/pictures.h"
 #include "tests/support/testwindow.h"
 
+#include <QPixmapCache>
 #include <QTest>
 
 class TestKeyboardPictures : public QObject
@@ -15,6 +16,8 @@ private slots:
     void pictureWithoutAlphaIsTinted();
     void densePictureStaysDense();
     void files();
+    void decodedOnce();
+    void missingUntilLater();
     void zoneTakesTheTintFromTheWhole();
     void tintPictures_data();
     void tintPictures();
@@ -85,6 +88,27 @@ void TestKeyboardPictures::files()
     QCOMPARE(pictureFile(KeyboardPicture::Right), QStringLiteral("branding/keyboard_right.png"));
     QCOMPARE(pictureFile(KeyboardPicture::Full), QStringLiteral("branding/keyboard_full.png"));
     QCOMPARE(pictureFile(KeyboardPicture::Stripe), QStringLiteral("branding/stripe_lidled.png"));
+}
+
+void TestKeyboardPictures::decodedOnce()
+{
+    const TestWindow world; // its folder holds the files
+    writePictures();
+    KeyboardPictures pictures;
+    const qint64 key = pictures.of(KeyboardPicture::Left).cacheKey();
+    QVERIFY(!pictures.of(KeyboardPicture::Left).isNull());
+    QPixmapCache::clear();
+    QCOMPARE(pictures.of(KeyboardPicture::Left).cacheKey(), key);
+    QVERIFY(pictures.of(KeyboardPicture::Stripe).cacheKey() != key);
+}
+
+void TestKeyboardPictures::missingUntilLater()
+{
+    const TestWindow world;
+    KeyboardPictures pictures;
+    QVERIFY(pictures.of(KeyboardPicture::Full).isNull());
+    writePictures();
+    QVERIFY(!pictures.of(KeyboardPicture::Full).isNull());
 }
 
 /// A keyboard in zones has no one colour.
