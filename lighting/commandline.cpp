@@ -2,22 +2,29 @@
 
 #include <QDataStream>
 #include <QIODevice>
-#include <QStringList>
+#include <QStringBuilder>
 
 namespace {
+
+/// Left, centre, right and stripe, then the effect word.
+QString lineOf(const QString &left, const QString &centre, const QString &right,
+               const QString &stripe, const QString &effect)
+{
+    constexpr QLatin1Char comma(',');
+    return left % comma % centre % comma % right % comma % stripe % comma % effect;
+}
 
 /// Four times the same zone word, then the effect word.
 QString uniformLine(quint32 word, const QString &effectWord)
 {
     const QString zone = wordText(word);
-    return QStringList{zone, zone, zone, zone, effectWord}.join(QLatin1Char(','));
+    return lineOf(zone, zone, zone, zone, effectWord);
 }
 
 QString normalLine(const LightingState &state)
 {
-    return QStringList{state.leftWord, state.centreWord, state.rightWord, state.stripeWord,
-                       state.effectWord}
-        .join(QLatin1Char(','));
+    return lineOf(state.leftWord, state.centreWord, state.rightWord, state.stripeWord,
+                  state.effectWord);
 }
 
 /// A wake is sent twice: once the first has gone out, with any kind of line, the second is due.
@@ -56,6 +63,8 @@ LineChoice chooseLine(const LightingState &state, const LineInputs &inputs)
 QByteArray frameLine(const QString &line)
 {
     QByteArray block;
+    block.reserve(
+        static_cast<int>(sizeof(quint16) + sizeof(quint32) + sizeof(QChar) * line.size()));
     QDataStream stream(&block, QIODevice::WriteOnly);
     stream.setVersion(QDataStream::Qt_4_0);
     stream << quint16(0) << line;

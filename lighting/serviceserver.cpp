@@ -75,7 +75,7 @@ void ServiceServer::answer(const std::function<QString()> &line)
     }
     clientAccepted = true;
     acceptingFailed = false;
-    connect(client, SIGNAL(disconnected()), client, SLOT(deleteLater()));
+    connect(client, &QTcpSocket::disconnected, client, &QObject::deleteLater);
     client->write(frameLine(line()));
     client->disconnectFromHost();
     if (client->state() == QAbstractSocket::UnconnectedState) {
