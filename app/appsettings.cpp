@@ -112,7 +112,6 @@ void AppSettings::writeSetting(const SettingKey &key, const QVariant &value) con
 
 void AppSettings::write(const SettingsTogether &together) const
 {
-    QDir().mkpath(companyDirPath);
     if (!isReadyForWriting(WriteSettings, settingsIniPath)) {
         return;
     }
@@ -121,7 +120,7 @@ void AppSettings::write(const SettingsTogether &together) const
         settings->setValue(path, value);
     }
     settings->sync();
-    report(WriteSettings, *settings);
+    report(WriteSettings, settingsIniPath, settings->status());
 }
 
 QVariant AppSettings::readBranding(const SettingKey &key) const
@@ -137,7 +136,7 @@ void AppSettings::writeWorkQueue(const SettingKey &key, const QVariant &value) c
     QSettings settings(workIniPath, QSettings::IniFormat);
     settings.setValue(workPath(key), inStoredForm(key, value));
     settings.sync();
-    report(WriteWork, settings);
+    report(WriteWork, workIniPath, settings.status());
 }
 
 std::unique_ptr<QSettings> AppSettings::openSettings() const
