@@ -11,7 +11,9 @@
 // The least that a program of this kind can be: an empty window and a listening server. The
 // yardstick for start, memory and idling.
 //
-//   bareprogram ADDRESS PORT [hidden] [timer]
+//   bareprogram ADDRESS PORT [hidden] [timer] [raster]
+//
+// A window of Qt's loads OpenGL, whether it draws by it or not; "raster" tells it not to.
 namespace {
 
 constexpr int answerSize = 96;
@@ -39,8 +41,10 @@ int main(int argc, char *argv[])
     const QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() < 3) {
-        qFatal("usage: bareprogram ADDRESS PORT [hidden] [timer]");
+        qFatal("usage: bareprogram ADDRESS PORT [hidden] [timer] [raster]");
     }
+    QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets,
+                                   arguments.contains(QStringLiteral("raster")));
 
     QWidget window;
     window.resize(windowSize);

@@ -12,8 +12,8 @@ import statistics
 import sys
 
 sys.dont_write_bytecode = True
-from processes import (LOADS, OFF_ANSWER, Bare, Idle, Program, answers, by_hand,  # noqa: E402
-                       come_and_go, inside)
+from processes import (LOADS, NEIGHBOUR, OFF_ANSWER, Bare, Idle, Program, answers,  # noqa: E402
+                       by_hand, come_and_go, inside, neighbour_cpu_ms)
 from tables import Row, markdown  # noqa: E402
 
 ROOT = pathlib.Path(__file__).resolve().parents[1]
@@ -73,17 +73,37 @@ def starting(runs):
             process.settle()
             return cpu, process.memory_kib() / 1024
 
-    taken = in_turns(runs.rounds, lambda: start(Program), lambda: start(Bare))
+    neighbours = []
+    taken = []
+    for _ in range(runs.rounds):
+        taken.append((start(Program), start(Bare), start(lambda: Bare("bareprogram", "raster"))))
+        if NEIGHBOUR.exists():
+            neighbours.append(neighbour_cpu_ms())
+    cpu, memory = ([tuple(kind[figure] for kind in each) for each in taken] for figure in (0, 1))
     yield pairs_row("start until the first answer, CPU time", "ms",
-                    [(p[0], b[0]) for p, b in taken], at_most=1.5)
-    yield pairs_row("memory after start (PSS)", "MiB",
-                    [(p[1], b[1]) for p, b in taken], at_most=1.15)
+                    [(p, b) for p, b, _ in cpu], at_most=1.5)
+    yield pairs_row("for comparison: the start beside a window without OpenGL", "ms",
+                    [(p, r) for p, _, r in cpu])
+    name = "the same beside ckb-next, until it shows its settings window"
+    if neighbours:
+        yield pairs_row(name, "ms", [(p[0], n) for p, n in zip(cpu, neighbours)], at_most=1)
+    else:
+        yield Row(name, "ms", None, None, None)
+    yield pairs_row("memory after start (PSS)", "MiB", [(p, b) for p, b, _ in memory],
+                    at_most=1.15)
+    yield pairs_row("for comparison: memory beside a window without OpenGL", "MiB",
+                    [(p, r) for p, _, r in memory])
 
 
 def idling(runs):
-    taken = Idle(runs.rounds, runs.idle_s).percent_of_a_core()
+    taken = Idle(runs.rounds, runs.idle_s).measure()
     yield pairs_row(f"CPU while idle in the tray for {runs.idle_s} s, auto-dim on", "% of a core",
-                    taken, 3, at_most=3, program_at_most=0.3)
+                    [(watching[0], bare[0]) for watching, _, bare in taken], 3, at_most=3,
+                    program_at_most=0.3)
+    for state, figures in (("on", [watching[1] for watching, _, _ in taken]),
+                           ("off", [idle[1] for _, idle, _ in taken])):
+        yield Row(f"wake-ups meanwhile, auto-dim {state}", "1/s", statistics.median(figures), None,
+                  None, program_at_most=11)
 
 
 def square(runs):

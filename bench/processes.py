@@ -31,8 +31,10 @@ Zone2Color=0 255 0
 Zone3Color=0 0 255
 StripeLid=0 255 0
 """
+IN_THE_TRAY = "start_hidden=1\n"
 # The longest idle time, so that what is measured is the watching.
-IN_THE_TRAY = "start_hidden=1\nAutoDim=true\ndimtimer=8\n"
+WATCHING = IN_THE_TRAY + "AutoDim=true\ndimtimer=8\n"
+NEIGHBOUR = BUILD / "ckb-next/usr/bin/ckb-next"  # script/bench unpacks it
 
 
 def cpu_seconds(pid):
@@ -151,9 +153,29 @@ class Program(Process):
 class Bare(Process):
     """A yardstick: bareprogram (a Qt program) or bareserver (C)."""
 
-    def __init__(self, name="bareprogram"):
+    def __init__(self, name="bareprogram", *options):
         self.port = {"bareprogram": PROGRAM_PORT + 1, "bareserver": PROGRAM_PORT + 2}[name]
-        super().__init__([BUILD / "bench" / name, ADDRESS, str(self.port)])
+        super().__init__([BUILD / "bench" / name, ADDRESS, str(self.port), *options])
+
+
+def neighbour_cpu_ms():
+    """CPU time until ckb-next, which sets keyboards too, shows its window; it finds no keyboard."""
+    # It refuses to run for root, whom the world that is measured in takes everybody for.
+    command = ["unshare", "--user", "--map-user=1000", "--map-group=1000", NEIGHBOUR]
+    shown = ["xdotool", "search", "--onlyvisible", "--name", "^ckb-next$"]
+    with tempfile.TemporaryDirectory() as folder:
+        environment = {name: value for name, value in os.environ.items()
+                       if not name.startswith("XDG_") or name == "XDG_RUNTIME_DIR"}
+        with subprocess.Popen(command, env=environment | {"HOME": folder, "TMPDIR": folder},
+                              stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL) as process:
+            try:
+                end = time.monotonic() + START_LIMIT_SECONDS
+                while subprocess.run(shown, stdout=subprocess.DEVNULL, check=False).returncode != 0:
+                    if time.monotonic() > end:
+                        raise RuntimeError("ckb-next showed no window")
+                return cpu_seconds(process.pid) * 1000
+            finally:
+                process.kill()  # a message of its own keeps it from ending
 
 
 def answers(server, clients, milliseconds):
@@ -235,37 +257,48 @@ def inside(figure, number, in_memory=False):
     return [tuple(float(word) for word in line.split()) for line in result.stdout.splitlines()]
 
 
+def wakeups(pid):
+    """How often the threads of a process have gone to sleep so far."""
+    return sum(int(line.split()[1])
+               for status in pathlib.Path(f"/proc/{pid}/task").glob("*/status")
+               for line in status.read_text().splitlines()
+               if line.startswith("voluntary_ctxt_switches:"))
+
+
 class Idle:
-    """Program and yardstick hidden, in pairs beside each other, each with a network and shared
-    memory of its own: they do next to nothing, so a minute serves for all of them."""
+    """The program, watching and not, and the yardstick, hidden, several of each beside each other,
+    each with a network and shared memory of its own: they do next to nothing, so a minute serves
+    for all of them."""
 
     APART = ["unshare", "--net", "--ipc", "sh", "-c", 'ip link set lo up && exec "$@"', "idle"]
 
-    def __init__(self, pairs, seconds):
-        self._pairs, self._seconds = pairs, seconds
+    def __init__(self, rounds, seconds):
+        self._rounds, self._seconds = rounds, seconds
 
-    def percent_of_a_core(self):
+    def measure(self):
+        """By round, of each of the three the percentage of a core and the wake-ups a second."""
+        program = [BUILD / "bin/Lumikey"]
+        bare = [BUILD / "bench/bareprogram", ADDRESS, str(PROGRAM_PORT), "hidden", "timer"]
+        kinds = (("watching", program, WATCHING), ("idle", program, IN_THE_TRAY),
+                 ("bare", bare, IN_THE_TRAY))
         started = []
         with tempfile.TemporaryDirectory() as scratch:
             try:
-                for number in range(self._pairs):
-                    folder = pathlib.Path(scratch) / str(number)
-                    environment, cwd = program_world(folder, IN_THE_TRAY)
-                    program = [BUILD / "bin/Lumikey"]
-                    bare = [BUILD / "bench/bareprogram", ADDRESS, str(PROGRAM_PORT), "hidden",
-                            "timer"]
-                    for command in (program, bare):
-                        started.append(self._start(command, environment, cwd))
+                for number in range(self._rounds):
+                    for name, command, settings in kinds:
+                        world = program_world(pathlib.Path(scratch, f"{number}-{name}"), settings)
+                        started.append(self._start(command, *world))
                 time.sleep(IDLE_AFTER_SECONDS)
-                before = self._cpu(started)
+                before = self._taken(started)
                 time.sleep(self._seconds)
-                after = self._cpu(started)
+                after = self._taken(started)
             finally:
                 for process in started:
                     process.terminate()
                     process.wait()
-        shares = [(end - begin) / self._seconds * 100 for begin, end in zip(before, after)]
-        return list(zip(shares[::2], shares[1::2]))
+        each = [((cpu - cpu_before) / self._seconds * 100, (woken - woken_before) / self._seconds)
+                for (cpu_before, woken_before), (cpu, woken) in zip(before, after)]
+        return list(zip(each[::3], each[1::3], each[2::3]))
 
     def _start(self, command, environment, cwd):
         with open(cwd / f"{pathlib.Path(command[0]).name}.log", "wb") as log:
@@ -276,9 +309,9 @@ class Idle:
         return process
 
     @staticmethod
-    def _cpu(processes):
+    def _taken(processes):
         for process in processes:
             if process.poll() is not None:
                 raise RuntimeError(f"{process.log.stem} ended with {process.returncode}: "
                                    f"{process.log.read_text(errors='replace')}")
-        return [cpu_seconds(process.pid) for process in processes]
+        return [(cpu_seconds(process.pid), wakeups(process.pid)) for process in processes]
