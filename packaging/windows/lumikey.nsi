@@ -15,6 +15,9 @@
 Unicode true
 Target amd64-unicode
 SetCompressor ${COMPRESSOR}
+!if "${COMPRESSOR}" == "/SOLID lzma"
+    SetCompressorDictSize 32 ; MB: all files share what they have in common
+!endif
 SetDateSave on
 AllowSkipFiles off ; whoever is asked may try a file again or give up; silence gives up
 RequestExecutionLevel admin
