@@ -213,6 +213,8 @@ class CppPlaces(Places):
         token = self.tokens[i]
         if self.tokens[i - 1].text == "extern":
             return
+        if self.tokens[i - 1].text == "(" and self.tokens[i - 2].text == "QT_TRANSLATE_NOOP":
+            return  # a context that lupdate alone reads: script/lib/check-translations sees it
         start = token.text.index('"') + 1
         inside = token.text[start:-1]
         if "R" in token.text[:start] or not inside:
