@@ -76,9 +76,18 @@ void ServiceServer::answer(const std::function<QString()> &line)
     clientAccepted = true;
     acceptingFailed = false;
     connect(client, &QTcpSocket::disconnected, client, &QObject::deleteLater);
-    client->write(frameLine(line()));
+    client->write(frameOf(line()));
     client->disconnectFromHost();
     if (client->state() == QAbstractSocket::UnconnectedState) {
         client->deleteLater(); // already gone, so disconnected() may have been missed
     }
+}
+
+const QByteArray &ServiceServer::frameOf(const QString &line)
+{
+    if (frame.isEmpty() || line != framedLine) {
+        frame = frameLine(line);
+        framedLine = line;
+    }
+    return frame;
 }

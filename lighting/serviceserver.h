@@ -37,9 +37,13 @@ protected:
 private:
     /// Goes on accepting clients after the system refused to hand one over.
     void acceptAgain(QAbstractSocket::SocketError error);
+    /// Most answers are those of before: a frame is made anew where the line is another.
+    const QByteArray &frameOf(const QString &line);
 
     ServiceEndpoint endpoint;
     Platform &platform;
+    QString framedLine;
+    QByteArray frame;
     int inARow = 0;
     bool clientAccepted = false;  ///< since accepting last failed
     bool acceptingFailed = false; ///< since the last client; the log has been told
