@@ -39,12 +39,13 @@ inline QStringList clippedWidgets(const QWidget &window, bool tight = false)
                 needed.setHeight(qMin(needed.height(), widget->fontMetrics().height()));
             }
             if (widget->width() < needed.width() || widget->height() < needed.height()) {
-                problems += QStringLiteral("%1 has %2x%3 of %4x%5")
+                problems += QStringLiteral("%1 has %2x%3 of %4x%5: ")
                                 .arg(widget->objectName())
                                 .arg(widget->width())
                                 .arg(widget->height())
                                 .arg(needed.width())
-                                .arg(needed.height());
+                                .arg(needed.height())
+                            + widget->property("text").toString();
             }
         }
         for (const QWidget *other : qAsConst(shown)) {
