@@ -14,6 +14,7 @@ import json
 import os
 import pathlib
 import random
+import re
 import shutil
 import subprocess
 import sys
@@ -36,6 +37,11 @@ QUICK_TESTS = 10
 STEADY_SECONDS = 10  # a test that takes longer may wait for time to pass
 SHEET = "darkstyle.qss"
 FORM = "ui_mainwindow.h"  # made of the form
+# What reads the sources and runs nothing of them: the files, and what must stand where they change.
+READERS = {
+    "tst_translations": (re.compile(r"(colorpicker|ui)/.*\.(cpp|h|ui)|app/translation\.cpp"),
+                         re.compile(r"\"|<string")),
+}
 
 
 def say(text):
@@ -249,8 +255,14 @@ class Reach:
         return set().union(*self.lines[name].values())
 
     def of(self, change):
-        """The names of the tests that may see the change: those that run the line; where it has no
-        code, those that run its function, its file, or what reads it."""
+        """The names of the tests that may see the change."""
+        readers = {name for name, (file, text) in READERS.items()
+                   if file.fullmatch(change.file) and text.search(change.before + change.after)}
+        return self.that_run(change) | readers & self.seen.keys()
+
+    def that_run(self, change):
+        """Those that run the line; where it has no code, those that run its function, its file, or
+        what includes it."""
         name = FORM if change.file.endswith(".ui") else change.file
         if change.file.endswith(".qss"):
             return self.of_sheet()
