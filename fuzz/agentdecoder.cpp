@@ -80,7 +80,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         answer.effectWord = input.takeNumber();
         const agent::Decoded decoded = agent::decode(written(answer));
         const auto *const read = std::get_if<agent::Answer>(&decoded);
-        require(read != nullptr && *read == answer, "what the program writes is read");
+        require(read != nullptr && read->zoneWords == answer.zoneWords
+                    && read->effectWord == answer.effectWord,
+                "what the program writes is read");
         checkViews(answer);
         break;
     }

@@ -127,11 +127,10 @@ Decoded decode(const QByteArray &bytes)
         return Malformed{QStringLiteral("%1 byte(s) follow the text").arg(came - outer)};
     }
 
-    const int units = int(inner / 2);
-    QString line(units, Qt::Uninitialized);
-    const char *unit = bytes.constData() + outerSize + innerSize;
-    for (int i = 0; i < units; ++i, unit += 2) {
-        line[i] = QChar(qFromBigEndian<quint16>(unit));
+    QString line;
+    const char *const text = bytes.constData() + outerSize + innerSize;
+    for (quint32 at = 0; at < inner; at += 2) {
+        line += QChar(qFromBigEndian<quint16>(text + at));
     }
     return decodeLine(line);
 }

@@ -45,11 +45,6 @@ struct Answer
 {
     std::array<quint32, zoneCount> zoneWords{};
     quint32 effectWord = 0;
-
-    friend bool operator==(const Answer &a, const Answer &b)
-    {
-        return a.zoneWords == b.zoneWords && a.effectWord == b.effectWord;
-    }
 };
 
 /// An answer that broke the wire format; `why` is one printable line for a person, never empty.

@@ -19,9 +19,8 @@ std::optional<int> milliseconds(const QString &text)
     const bool digits = std::all_of(text.begin(), text.end(), [](QChar c) {
         return c >= QLatin1Char('0') && c <= QLatin1Char('9');
     });
-    bool ok = false;
-    const int value = text.toInt(&ok);
-    if (!digits || !ok || value < 1 || value > longestDuration) {
+    const int value = text.toInt(); // 0 where it is none, or too large for one
+    if (!digits || value < 1 || value > longestDuration) {
         return std::nullopt;
     }
     return value;

@@ -67,11 +67,9 @@ void Poller::takeAnswer(const Answer &answer)
     absenceTold = false;
     if (!printer.show(answer)) {
         printer.complain(QStringLiteral("cannot write to standard output"));
-        timer.stop();
-        QCoreApplication::exit(WrongUse);
+        end(WrongUse);
     } else if (options.once) {
-        timer.stop();
-        QCoreApplication::exit(Done);
+        end(Done);
     }
 }
 
@@ -87,16 +85,20 @@ void Poller::takeAbsence(const QString &reason)
         absenceTold = true;
     }
     if (!options.wait) {
-        timer.stop();
-        QCoreApplication::exit(NoServer);
+        end(NoServer);
     }
 }
 
 void Poller::takeMalformed(const QString &reason)
 {
     printer.complain(QStringLiteral("malformed answer: ") + reason);
-    timer.stop();
-    QCoreApplication::exit(MalformedAnswer);
+    end(MalformedAnswer);
+}
+
+void Poller::end(ExitCode code)
+{
+    timer.stop(); // whoever still asked would take a line that is another's
+    QCoreApplication::exit(code);
 }
 
 } // namespace agent

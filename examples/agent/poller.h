@@ -28,6 +28,7 @@ private:
     void takeAnswer(const Answer &answer);
     void takeAbsence(const QString &reason);
     void takeMalformed(const QString &reason);
+    void end(ExitCode code);
 
     Options options;
     Printer printer;

@@ -40,6 +40,7 @@ void Printer::complain(const QString &text)
     lastLine.clear();
     const QByteArray line = "lumikey-agent: " + text.toUtf8() + '\n';
     std::fputs(line.constData(), stderr);
+    // Not every system leaves it without a buffer.
     std::fflush(stderr);
 }
 

@@ -11,7 +11,6 @@ Request::Request(int timeout, QObject *parent)
     : QObject(parent)
 {
     socket.setProxy(QNetworkProxy::NoProxy);
-    limit.setSingleShot(true);
     limit.setInterval(timeout);
     connect(&socket, &QTcpSocket::connected, this, [this] { connectedOnce = true; });
     connect(&socket, &QTcpSocket::readyRead, this, &Request::read);

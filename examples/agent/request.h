@@ -52,7 +52,7 @@ private:
     void finishDecoded();
 
     QTcpSocket socket;
-    QTimer limit;
+    QTimer limit; ///< runs until finish()
     QByteArray bytes;
     Outcome result;
     bool connectedOnce = false;

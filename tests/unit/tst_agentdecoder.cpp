@@ -1,4 +1,5 @@
 #include "examples/agent/answer.h"
+#include "lighting/effects.h"
 
 #include <QtEndian>
 #include <QtTest>
@@ -55,12 +56,12 @@ QString errorOf(const Decoded &decoded)
     return malformed != nullptr ? malformed->why : QString();
 }
 
-Answer answerOf(const std::array<quint32, 4> &zones, quint32 effect)
+/// The five words as they stood on the wire.
+QVector<quint32> wordsOf(const Answer &answer)
 {
-    Answer answer;
-    answer.zoneWords = zones;
-    answer.effectWord = effect;
-    return answer;
+    QVector<quint32> words(answer.zoneWords.begin(), answer.zoneWords.end());
+    words.append(answer.effectWord);
+    return words;
 }
 
 } // namespace
@@ -87,6 +88,7 @@ private slots:
     void colours();
     void effectNames_data();
     void effectNames();
+    void effectsOfTheProgram();
     void noBytesCrashIt();
 };
 
@@ -122,7 +124,7 @@ void TestAgentDecoder::workedDumps()
     const Decoded decoded = decode(dump);
     QCOMPARE(errorOf(decoded), QString());
     const auto answer = std::get<Answer>(decoded);
-    QVERIFY(answer == answerOf({word, word, word, word}, 0));
+    QCOMPARE(wordsOf(answer), (QVector<quint32>{word, word, word, word, 0}));
     QCOMPARE(agent::lineKind(answer), kind);
 }
 
@@ -153,8 +155,7 @@ void TestAgentDecoder::wellFormed()
 
     const Decoded decoded = decode(frame(text));
     QCOMPARE(errorOf(decoded), QString());
-    const auto answer = std::get<Answer>(decoded);
-    QVERIFY(answer == answerOf({words[0], words[1], words[2], words[3]}, words[4]));
+    QCOMPARE(wordsOf(std::get<Answer>(decoded)), words);
 }
 
 void TestAgentDecoder::badFrame_data()
@@ -259,6 +260,12 @@ void TestAgentDecoder::badText_data()
         R"(field 5 is not a plain decimal number: "5\u0000")");
     row("byte order mark", QChar(0xFEFF) + QStringLiteral("1,2,3,4,5"),
         R"(field 1 is not a plain decimal number: "\ufeff1")");
+    row("beside the digits", QStringLiteral("1,2,3,4/,5"),
+        R"(field 4 is not a plain decimal number: "4/")");
+    row("on their other side", QStringLiteral("1,2,3,4:,5"),
+        R"(field 4 is not a plain decimal number: "4:")");
+    row("both sides of what can be printed", QStringLiteral("1,2,\x1f ~\x7f\x80\u00fd\u00fe,4,5"),
+        R"(field 3 is not a plain decimal number: "\u001f ~\u007f\u0080\u00fd\u00fe")");
     row("terminal sequence", QStringLiteral("\x1b[2J,2,3,4,5"),
         R"(field 1 is not a plain decimal number: "\u001b[2J")");
     row("padded", QStringLiteral("1,2,3,4,00"), R"(field 5 is padded with a zero: "00")");
@@ -268,6 +275,8 @@ void TestAgentDecoder::badText_data()
         R"(field 5 does not fit 32 bits: "10000000000")");
     row("past 64 bits", QStringLiteral("1,2,3,18446744073709551617,5"),
         R"(field 4 does not fit 32 bits: "18446744073709551617")");
+    row("as long as is quoted", QStringLiteral("1,2,3,4,") + QString(24, QLatin1Char('7')),
+        R"(field 5 does not fit 32 bits: "777777777777777777777777")");
     row("endless", QStringLiteral("1,2,3,4,") + QString(1000, QLatin1Char('7')),
         R"(field 5 does not fit 32 bits: "777777777777777777777777"...)");
 }
@@ -416,6 +425,16 @@ void TestAgentDecoder::effectNames()
     const Decoded decoded = decode(frame(QStringLiteral("1,2,3,4,") + word));
     QCOMPARE(errorOf(decoded), QString());
     QCOMPARE(agent::effectName(std::get<Answer>(decoded).effectWord), name);
+}
+
+/// The table is the program's list, in its order and as long.
+void TestAgentDecoder::effectsOfTheProgram()
+{
+    QCOMPARE(agent::effects.size(), ::effects.size());
+    for (std::size_t i = 0; i < ::effects.size(); ++i) {
+        QCOMPARE(agent::effects.at(i).word, ::effects.at(i).word);
+        QCOMPARE(QLatin1String(agent::effects.at(i).name), QLatin1String(::effects.at(i).name));
+    }
 }
 
 void TestAgentDecoder::noBytesCrashIt()

@@ -107,12 +107,13 @@ private slots:
     void jsonKinds();
     void jsonIsOneLine();
     void panelText();
-    void panelBlocks();
+    void panelInColours();
     void panelFitsEightyColumns_data();
     void panelFitsEightyColumns();
     void panelWithoutColoursHasNoSequences();
     void panelHeightNeverDependsOnTheAnswer();
     void drawsInPlace();
+    void bytesOfADrawing();
 };
 
 void TestAgentView::plainLines_data()
@@ -253,32 +254,31 @@ void TestAgentView::panelText()
         trimmed += QString(line).replace(QRegularExpression(QStringLiteral(" +$")), QString());
     }
     QCOMPARE(trimmed, expected);
+    QCOMPARE(lines.at(2).size(), 2 + 4 * 19);
 }
 
-void TestAgentView::panelBlocks()
+void TestAgentView::panelInColours()
 {
     const QStringList lines =
         agent::panel(answerOf({0xF000FF00U, 4093640951U, 0xF2030102U, 0xF3000000U}, 0),
                      QStringLiteral("title"), QString(), true);
-    int blockRows = 0;
-    for (const QString &line : lines) {
-        if (!line.contains(QStringLiteral("\x1b[48;2;"))) {
-            continue;
-        }
-        ++blockRows;
-        QCOMPARE(line.count(QStringLiteral("\x1b[48;2;")), 3);
-        const int left = line.indexOf(QStringLiteral("\x1b[48;2;255;0;0m                \x1b[0m"));
-        const int centre = line.indexOf(QStringLiteral("////////////////\x1b[0m"));
-        const int right = line.indexOf(QStringLiteral("\x1b[48;2;1;2;3m                \x1b[0m"));
-        const int stripe = line.indexOf(QStringLiteral("\x1b[48;2;0;0;0m                \x1b[0m"));
-        QVERIFY(left > 0);
-        QVERIFY(centre > left);
-        QVERIFY(right > centre);
-        QVERIFY(stripe > right);
-    }
-    QCOMPARE(blockRows, 3);
-    QVERIFY(lines.filter(QStringLiteral("raw word")).size() == 1);
-    QCOMPARE(lines.last(), QStringLiteral("  effect  \x1b[1mNone\x1b[0m"));
+    // Each block between faint edges; the word without a colour is hatched.
+    const QString edge = QStringLiteral("\x1b[2m|\x1b[0m");
+    const auto coloured = [&edge](const char *rgb) {
+        return edge + QStringLiteral("\x1b[48;2;%1m                \x1b[0m").arg(QLatin1String(rgb))
+               + edge;
+    };
+    const QString hatched = edge + QStringLiteral("\x1b[2m////////////////\x1b[0m") + edge;
+    const QString blocks =
+        QStringLiteral("  ")
+        + QStringList{coloured("255;0;0"), hatched, coloured("1;2;3"), coloured("0;0;0")}.join(
+            QLatin1Char(' '));
+    QCOMPARE(lines.size(), 12);
+    QCOMPARE(lines.mid(3, 3), (QStringList{blocks, blocks, blocks}));
+    QVERIFY2(lines.at(6).startsWith(QStringLiteral("  #ff0000            raw word           #01")),
+             qPrintable(lines.at(6)));
+    QCOMPARE(lines.at(10), QStringLiteral("  line    \x1b[1mnormal\x1b[0m"));
+    QCOMPARE(lines.at(11), QStringLiteral("  effect  \x1b[1mNone\x1b[0m"));
 }
 
 void TestAgentView::panelFitsEightyColumns_data()
@@ -355,6 +355,17 @@ void TestAgentView::drawsInPlace()
     QCOMPARE(terminal.rows, expected);
     QCOMPARE(terminal.y, expected.size() - 1);
     QCOMPARE(terminal.x, 0);
+}
+
+/// Lines that are too long for the terminal are cut, not wrapped, for as long as it draws; each
+/// goes over all that stood in its row.
+void TestAgentView::bytesOfADrawing()
+{
+    const QStringList lines{QStringLiteral("one"), QStringLiteral("zwei \u00fc")};
+    const QByteArray drawn("one\x1b[K\nzwei \xc3\xbc\x1b[K\n");
+    QCOMPARE(agent::drawInPlace(lines, 0), "\x1b[?7l" + drawn + "\x1b[?7h");
+    QCOMPARE(agent::drawInPlace(lines, 1), "\x1b[?7l\x1b[1A\r" + drawn + "\x1b[?7h");
+    QCOMPARE(agent::drawInPlace(lines, 12), "\x1b[?7l\x1b[12A\r" + drawn + "\x1b[?7h");
 }
 
 QTEST_GUILESS_MAIN(TestAgentView)
