@@ -2,6 +2,7 @@
 
 #include <QCommandLineOption>
 #include <QCommandLineParser>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <iterator>
@@ -14,15 +15,11 @@ constexpr int lowest = 0;
 constexpr int highest = 100;
 const QString range = QStringLiteral("from %1 to %2").arg(lowest).arg(highest);
 
-bool isDigit(QChar c)
-{
-    return c >= QLatin1Char('0') && c <= QLatin1Char('9');
-}
-
 /// "-1" is a number out of range, not an option.
 bool isNegative(const QString &argument)
 {
-    return argument.size() > 1 && argument.front() == QLatin1Char('-') && isDigit(argument.at(1));
+    static const QRegularExpression form(QStringLiteral("^-[0-9]"));
+    return form.match(argument).hasMatch();
 }
 
 Notice wrongUse(ExitCode code, const QString &what)
@@ -34,10 +31,9 @@ std::variant<int, Notice> brightness(const QString &text)
 {
     // QString::toInt() would let blanks and a plus sign through, and says the same of a number that
     // it cannot hold as of none.
-    const bool negative = isNegative(text);
-    const bool digits =
-        !text.isEmpty() && std::all_of(text.begin() + (negative ? 1 : 0), text.end(), isDigit);
-    if (!digits) {
+    static const QRegularExpression form(
+        QRegularExpression::anchoredPattern(QStringLiteral("-?[0-9]+")));
+    if (!form.match(text).hasMatch()) {
         return wrongUse(NotANumber, QStringLiteral("'%1' is no whole number %2.").arg(text, range));
     }
     bool fits = false;
@@ -46,8 +42,9 @@ std::variant<int, Notice> brightness(const QString &text)
         return number;
     }
     const QString what = QStringLiteral("%1 is %2: give a number %3.");
-    return negative ? wrongUse(TooSmall, what.arg(text, QStringLiteral("too small"), range))
-                    : wrongUse(TooLarge, what.arg(text, QStringLiteral("too large"), range));
+    return isNegative(text)
+               ? wrongUse(TooSmall, what.arg(text, QStringLiteral("too small"), range))
+               : wrongUse(TooLarge, what.arg(text, QStringLiteral("too large"), range));
 }
 
 QString description()

@@ -86,7 +86,7 @@ public:
     void endProcess(int exitCode) override { ended = exitCode; }
     bool tryWithSegmentLock(const QString &nativeKey, const std::function<void()> &action) override
     {
-        return createPlatform()->tryWithSegmentLock(nativeKey, action);
+        return !segmentLocked && createPlatform()->tryWithSegmentLock(nativeKey, action);
     }
     void launch(const QString &commandLine) override { launched.append(commandLine); }
     void setFirmwareInterfaceLibrary(const QString &libraryPath) override
@@ -105,6 +105,7 @@ public:
     KeyPresses presses;                ///< seen by one poll
     std::function<void()> whilePolled; ///< happens during each poll, before it has its answer
     std::function<void()> whileAsleep; ///< happens during each sleep
+    bool segmentLocked = false;        ///< somebody else keeps the companion's segment locked
     bool elevated = false;
     std::optional<quint32> elevationError;
     Relaunch relaunch = Relaunch::Launched;

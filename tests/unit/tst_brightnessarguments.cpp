@@ -30,8 +30,8 @@ private slots:
     void brightnesses();
     void wrongUse_data();
     void wrongUse();
-    void helpTellsEveryCode_data();
-    void helpTellsEveryCode();
+    void help_data();
+    void help();
     void versionIsTold();
     void eachCodeHasOneMeaning();
 };
@@ -92,6 +92,10 @@ void TestBrightnessArguments::wrongUse_data()
     row("40 50", companion::NotANumber, "'40 50' is no whole number");
     row("4.5", companion::NotANumber, "'4.5' is no whole number");
     row("0x28", companion::NotANumber, "'0x28' is no whole number");
+    row("4:", companion::NotANumber, "'4:' is no whole number");
+    row("4/", companion::NotANumber, "'4/' is no whole number");
+    row("40\n", companion::NotANumber, "'40\n' is no whole number");
+    row("--5", companion::WrongOption, "5");
     row("-5x", companion::NotANumber, "'-5x' is no whole number");
     row("-", companion::NotANumber, "'-' is no whole number");
     row("\u0664\u0660", companion::NotANumber, "'\u0664\u0660' is no whole number");
@@ -115,7 +119,7 @@ void TestBrightnessArguments::wrongUse()
     QVERIFY(notice.text.endsWith(QStringLiteral("\nTry lumikey-brightness --help.\n")));
 }
 
-void TestBrightnessArguments::helpTellsEveryCode_data()
+void TestBrightnessArguments::help_data()
 {
     QTest::addColumn<QString>("arguments");
     QTest::newRow("long") << QStringLiteral("--help");
@@ -124,21 +128,42 @@ void TestBrightnessArguments::helpTellsEveryCode_data()
     QTest::newRow("beside wrong ones") << QStringLiteral("-1|101|--help");
 }
 
-void TestBrightnessArguments::helpTellsEveryCode()
+void TestBrightnessArguments::help()
 {
     QFETCH(QString, arguments);
     const auto decision = decide(commandLine(arguments), version);
     QVERIFY(std::holds_alternative<Notice>(decision));
     const auto &notice = std::get<Notice>(decision);
     QCOMPARE(notice.exitCode, companion::Done);
-    for (const companion::Meaning &meaning : companion::meanings) {
-        const QString line =
-            QStringLiteral("\n  %1  %2\n").arg(meaning.code).arg(QLatin1String(meaning.text));
-        QVERIFY2(notice.text.contains(line), qPrintable(line));
-    }
-    for (const char *part : {"[options] brightness", "-v, --version", "-h, --help"}) {
-        QVERIFY2(notice.text.contains(QLatin1String(part)), qPrintable(notice.text));
-    }
+    const QString text = notice.text;
+    QCOMPARE(
+        text.section(QLatin1Char('\n'), 1),
+        QString::fromLatin1(
+            R"(Sets the brightness of the keyboard, in percent, as a companion application does: a
+running Lumikey takes it over. That takes this program about four seconds.
+
+Exit codes:
+  0  published for as long as a running Lumikey needs to take it over
+  1  no Lumikey runs beside this program for this user
+  2  no number was given
+  3  what was given is no whole number
+  4  the number is below 0
+  5  the number is above 100
+  6  more than one number was given
+  7  an option that does not exist
+  8  the segment is locked, too small for the text, or another user's
+
+Options:
+  -v, --version  Displays version information.
+  -h, --help     Print this help and end.
+
+Arguments:
+  brightness     A whole number from 0 to 100.
+)"));
+    QVERIFY2(text.startsWith(QStringLiteral("Usage: ")), qPrintable(text));
+    QVERIFY2(
+        text.section(QLatin1Char('\n'), 0, 0).endsWith(QStringLiteral(" [options] brightness")),
+        qPrintable(text));
 }
 
 void TestBrightnessArguments::versionIsTold()
