@@ -62,13 +62,10 @@ LineChoice chooseLine(const LightingState &state, const LineInputs &inputs)
 
 QByteArray frameLine(const QString &line)
 {
+    const auto following = sizeof(quint32) + sizeof(QChar) * static_cast<std::size_t>(line.size());
     QByteArray block;
-    block.reserve(
-        static_cast<int>(sizeof(quint16) + sizeof(quint32) + sizeof(QChar) * line.size()));
+    // A text has the same form in all versions of the stream.
     QDataStream stream(&block, QIODevice::WriteOnly);
-    stream.setVersion(QDataStream::Qt_4_0);
-    stream << quint16(0) << line;
-    stream.device()->seek(0);
-    stream << static_cast<quint16>(block.size() - static_cast<int>(sizeof(quint16)));
+    stream << static_cast<quint16>(following) << line;
     return block;
 }

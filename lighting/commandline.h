@@ -16,8 +16,8 @@ struct WakeSequence
 /// What decides the line, as the window shows it at the moment of the connection.
 struct LineInputs
 {
-    bool backlightOff = false;
-    int brightness = 0; ///< 0..100 percent
+    bool backlightOff;
+    int brightness; ///< 0..100 percent
     WakeSequence wake;
 };
 

@@ -5,6 +5,8 @@
 
 #include <QDebug>
 
+#include <algorithm>
+
 namespace {
 
 /// Enough for any text that the companion has; whoever publishes more does not make the window
@@ -37,7 +39,7 @@ QByteArray CompanionReader::segmentContents()
         attached = segment.attach(QSharedMemory::ReadOnly);
         if (attached) {
             contents = QByteArray(static_cast<const char *>(segment.constData()),
-                                  qBound(0, segment.size(), longestCopy));
+                                  std::min(segment.size(), longestCopy));
             segment.detach();
         }
     });

@@ -1,18 +1,11 @@
 #include "lighting/lightingstate.h"
 
+#include <array>
+
 QString &LightingState::wordOf(Zone zone)
 {
-    switch (zone) {
-    case Zone::Left:
-        return leftWord;
-    case Zone::Centre:
-        return centreWord;
-    case Zone::Right:
-        return rightWord;
-    case Zone::Stripe:
-        break;
-    }
-    return stripeWord;
+    const std::array<QString *, 4> words{&leftWord, &centreWord, &rightWord, &stripeWord};
+    return *words.at(static_cast<std::size_t>(zone));
 }
 
 void LightingState::blacken()

@@ -40,6 +40,7 @@ private slots:
     void damagedSegments();
     void hugeSegment();
     void longerAndShorterSegments();
+    void longestText();
     void lockedByTheOther();
     void killedWhileItHoldsTheLock();
     void vanishesWhileItIsRead();
@@ -294,6 +295,19 @@ void TestCompanionReader::longerAndShorterSegments()
                  companion->error());
         tick();
         QCOMPARE(shown(), value);
+        QVERIFY(companion->withdraw());
+    }
+}
+
+void TestCompanionReader::longestText()
+{
+    constexpr int longest = 1024 * 1024;
+    for (const int size : {longest, longest + 2}) { // the last two bytes are one letter too many
+        QVERIFY2(
+            companion->publish(QStringLiteral("on,%1,").arg(size % 97).leftJustified(size / 2 - 2)),
+            companion->error());
+        tick();
+        QCOMPARE(shown(), longest % 97);
         QVERIFY(companion->withdraw());
     }
 }

@@ -102,6 +102,7 @@ class TestAutoDim : public QObject
 private slots:
     void onePoll_data();
     void onePoll();
+    void nothingIsKnownAtFirst();
     void effectStopsEverything();
     void elapsedTime_data();
     void elapsedTime();
@@ -168,6 +169,20 @@ void TestAutoDim::onePoll()
     state.userBrightness = userBrightness;
     state.active = active;
     QTEST(told(dimStep(state, pollAt(noon, brightness))), "expected");
+}
+
+void TestAutoDim::nothingIsKnownAtFirst()
+{
+    const DimState state;
+    QCOMPARE(state.lastActivity, 0U);
+    QCOMPARE(state.idleTime, 0);
+    QCOMPARE(state.userBrightness, 0);
+    QVERIFY(!state.active);
+    const DimPoll poll;
+    QCOMPARE(poll.now, 0U);
+    QCOMPARE(poll.brightness, 0);
+    QVERIFY(!poll.effectChosen);
+    QCOMPARE(told(DimStep()), QStringLiteral("0/0"));
 }
 
 void TestAutoDim::effectStopsEverything()

@@ -35,6 +35,8 @@ private slots:
     void threeClientsAfterAWake();
     void wakeWaitsWhileOffOrDark();
     void wakeAgainBetweenTheTwo();
+    void firstWakeIsNoted_data();
+    void firstWakeIsNoted();
     void frame();
     void frameOfAnyLength_data();
     void frameOfAnyLength();
@@ -122,6 +124,32 @@ void TestCommandLine::wakeAgainBetweenTheTwo()
         wake = choice.wake;
     }
     QCOMPARE(chooseLine(redLeft(), {false, 100, wake}).line, redLine);
+}
+
+void TestCommandLine::firstWakeIsNoted_data()
+{
+    QTest::addColumn<bool>("off");
+    QTest::addColumn<int>("brightness");
+    QTest::addColumn<bool>("pending");
+    QTest::addColumn<bool>("repeat");
+    QTest::addColumn<QString>("flagsAfter");
+    QTest::newRow("by a normal line") << false << 50 << false << false << QStringLiteral("001");
+    QTest::newRow("by the off line") << true << 50 << true << false << QStringLiteral("001");
+    QTest::newRow("by that of brightness 0") << false << 0 << true << true << QStringLiteral("001");
+    QTest::newRow("by the wake line") << false << 50 << true << false << QStringLiteral("001");
+    QTest::newRow("the second one ends it")
+        << false << 50 << false << true << QStringLiteral("000");
+}
+
+/// What any answer makes of the flag that the first wake line has gone out.
+void TestCommandLine::firstWakeIsNoted()
+{
+    QFETCH(bool, off);
+    QFETCH(int, brightness);
+    QFETCH(bool, pending);
+    QFETCH(bool, repeat);
+    const LineChoice choice = chooseLine(redLeft(), {off, brightness, {pending, true, repeat}});
+    QTEST(flags(choice.wake), "flagsAfter");
 }
 
 void TestCommandLine::frame()

@@ -5,6 +5,15 @@
 
 #include <QTest>
 
+namespace {
+
+QString textOf(const ColourComponents &colour)
+{
+    return QStringLiteral("%1 %2 %3").arg(colour.red).arg(colour.green).arg(colour.blue);
+}
+
+} // namespace
+
 class TestDeviceWords : public QObject
 {
     Q_OBJECT
@@ -12,6 +21,8 @@ class TestDeviceWords : public QObject
 private slots:
     void words_data();
     void words();
+    void coloursOfWords_data();
+    void coloursOfWords();
     void everyChannelAtEveryBrightness();
     void pictureComponents_data();
     void pictureComponents();
@@ -22,6 +33,7 @@ private slots:
     void effectIndices();
     void idleTimes();
     void startState();
+    void wordOfAZone();
     void blacken();
 };
 
@@ -67,6 +79,25 @@ void TestDeviceWords::words()
     QTEST(wordText(deviceWord(static_cast<Zone>(zone), colour, brightness)), "word");
 }
 
+void TestDeviceWords::coloursOfWords_data()
+{
+    QTest::addColumn<quint32>("word");
+    QTest::addColumn<QString>("colour");
+    QTest::newRow("each channel another") << 0xF0030102U << QStringLiteral("1 2 3");
+    QTest::newRow("nothing but blue") << 0x00FF0000U << QStringLiteral("0 0 255");
+    QTest::newRow("nothing but red") << 0x0000FF00U << QStringLiteral("255 0 0");
+    QTest::newRow("nothing but green") << 0x000000FFU << QStringLiteral("0 255 0");
+    QTest::newRow("no colour") << 0xFF000000U << QStringLiteral("0 0 0");
+    QTest::newRow("white") << 0xFFFFFFFFU << QStringLiteral("255 255 255");
+}
+
+void TestDeviceWords::coloursOfWords()
+{
+    QFETCH(quint32, word);
+    QTEST(textOf(wordColour(word)), "colour");
+    QCOMPARE(textOf(ColourComponents()), QStringLiteral("0 0 0"));
+}
+
 void TestDeviceWords::everyChannelAtEveryBrightness()
 {
     for (int brightness = 0; brightness <= 100; ++brightness) {
@@ -101,8 +132,7 @@ void TestDeviceWords::pictureComponents()
 {
     QFETCH(QString, colour);
     QFETCH(int, brightness);
-    const ColourComponents part = scaledComponents(colour, brightness);
-    QTEST(QStringLiteral("%1 %2 %3").arg(part.red).arg(part.green).arg(part.blue), "components");
+    QTEST(textOf(scaledComponents(colour, brightness)), "components");
 }
 
 void TestDeviceWords::fixedWords_data()
@@ -175,6 +205,18 @@ void TestDeviceWords::startState()
             && state.rightZoneColor.isEmpty() && state.singleZoneColor.isEmpty()
             && state.stripeLidColor.isEmpty());
     QVERIFY(!state.singleColorSelected);
+}
+
+void TestDeviceWords::wordOfAZone()
+{
+    LightingState state;
+    state.wordOf(Zone::Left) = QStringLiteral("1");
+    state.wordOf(Zone::Centre) = QStringLiteral("2");
+    state.wordOf(Zone::Right) = QStringLiteral("3");
+    state.wordOf(Zone::Stripe) = QStringLiteral("4");
+    QCOMPARE((QStringList{state.leftWord, state.centreWord, state.rightWord, state.stripeWord}),
+             (QStringList{QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3"),
+                          QStringLiteral("4")}));
 }
 
 void TestDeviceWords::blacken()
