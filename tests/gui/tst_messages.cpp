@@ -40,6 +40,32 @@ QStringList linesOf(const QString &paragraph, const QFont &font, int width)
     return lines;
 }
 
+/// The narrowest that a text can be without being wrapped more than it has paragraphs.
+int wanted(const QString &text, const QFont &font)
+{
+    return evenWidth(text, font, 100'000);
+}
+
+/// Words that want just that many pixels in one line; nothing where no letters of the font do.
+QString wordsAsWideAs(int width, const QFont &font)
+{
+    QString words = QStringLiteral("mm");
+    while (wanted(words + QStringLiteral(" mm mmmmmmmm"), font) < width) {
+        words += QStringLiteral(" mm");
+    }
+    for (int narrow = 0; narrow < 30; ++narrow) {
+        for (int middle = 0; middle < 30; ++middle) {
+            const QString all = words + QLatin1Char(' ') + QString(narrow, QLatin1Char('i'))
+                                + QString(middle, QLatin1Char('n')) + QLatin1Char('m');
+            if (qAbs(QFontMetrics(font).horizontalAdvance(all) - width) < 5
+                && wanted(all, font) == width) {
+                return all;
+            }
+        }
+    }
+    return {};
+}
+
 QLabel &textLabel(const QMessageBox &box)
 {
     return *widget<QLabel>(box, "qt_msgbox_label");
@@ -66,6 +92,9 @@ private slots:
     void iconsAreOurs();
     void noLineHasOneWord_data();
     void noLineHasOneWord();
+    void widestLine_data();
+    void widestLine();
+    void staysAsItIs();
 
 private:
     std::unique_ptr<TestWindow> world;
@@ -243,6 +272,61 @@ void TestMessages::noLineHasOneWord()
         }
     };
     ask(world->window.get(), questions.at(std::size_t(row)).message);
+    QCOMPARE(watcher.seen.size(), 1);
+}
+
+void TestMessages::widestLine_data()
+{
+    QTest::addColumn<int>("fontSize");
+    QTest::addColumn<int>("widest");
+    QTest::newRow("in sizes of the font") << 12 << 420;
+    QTest::newRow("of a large font") << 30 << 800;
+}
+
+void TestMessages::widestLine()
+{
+    QFETCH(int, fontSize);
+    QFETCH(int, widest);
+    QFont font = QApplication::font();
+    font.setPixelSize(fontSize);
+    QApplication::setFont(font);
+    for (const bool fits : {true, false}) {
+        const QByteArray text = wordsAsWideAs(fits ? widest : widest + 1, font).toLatin1();
+        if (text.isEmpty()) {
+            QSKIP("this font has no words of that width");
+        }
+        int width = 0;
+        BoxWatcher watcher(QMessageBox::Ok);
+        watcher.look = [&width](QMessageBox &box) {
+            QVERIFY(textLabel(box).wordWrap());
+            width = textLabel(box).width();
+        };
+        tell(world->window.get(), {"Title", text.constData()});
+        QCOMPARE(watcher.seen.size(), 1);
+        QVERIFY2(fits ? width == widest : width < widest * 3 / 4,
+                 qPrintable(QString::number(width)));
+    }
+}
+
+/// Whatever has the box lay itself out once more.
+void TestMessages::staysAsItIs()
+{
+    BoxWatcher watcher(QMessageBox::No);
+    watcher.look = [](QMessageBox &box) {
+        // The window manager may still be at the size that the box had before.
+        QTRY_COMPARE(box.size(), box.minimumSize());
+        const QSize size = box.size();
+        const int width = textLabel(box).width();
+        for (int time = 0; time < 3; ++time) {
+            QCoreApplication::postEvent(&box, new QEvent(QEvent::LayoutRequest));
+            QCoreApplication::processEvents();
+            QCOMPARE(box.size(), size);
+            QCOMPARE(box.minimumSize(), size);
+            QCOMPARE(box.maximumSize(), size);
+            QCOMPARE(textLabel(box).width(), width);
+        }
+    };
+    ask(world->window.get(), Messages::uninstallNeedsRights);
     QCOMPARE(watcher.seen.size(), 1);
 }
 
