@@ -28,22 +28,16 @@ public:
 protected:
     bool event(QEvent *event) override
     {
-        if (fitted && event->type() == QEvent::LayoutRequest) {
-            // Past the base on purpose: its answer would be its own width.
-            return QDialog::event(event); // NOLINT(bugprone-parent-virtual-call)
-        }
-        return QMessageBox::event(event);
+        // The base would answer with its own width.
+        return event->type() == QEvent::LayoutRequest || QMessageBox::event(event);
     }
 
     void showEvent(QShowEvent *event) override
     {
         QMessageBox::showEvent(event);
-        if (!fitted) {
-            fitted = true;
-            const QPoint middle = geometry().center();
-            fit();
-            move(middle - rect().center());
-        }
+        const QPoint middle = geometry().center();
+        fit();
+        move(middle - rect().center());
     }
 
 private:
@@ -54,12 +48,9 @@ private:
         label->setWordWrap(true);
         label->setFixedWidth(evenWidth(text(), label->font(),
                                        std::min(fontSize * widestLineInFontSizes, widestLine)));
-        layout()->activate();
         const int width = layout()->totalMinimumSize().width();
         setFixedSize(width, layout()->totalHeightForWidth(width));
     }
-
-    bool fitted = false;
 };
 
 int show(QWidget *window, const Message &message, QMessageBox::Icon icon,
