@@ -64,8 +64,8 @@ QByteArray frameLine(const QString &line)
 {
     const auto following = sizeof(quint32) + sizeof(QChar) * static_cast<std::size_t>(line.size());
     QByteArray block;
-    // A text has the same form in all versions of the stream.
     QDataStream stream(&block, QIODevice::WriteOnly);
+    stream.setVersion(QDataStream::Qt_4_0);
     stream << static_cast<quint16>(following) << line;
     return block;
 }
