@@ -5,18 +5,9 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-namespace {
-
-constexpr QColor restingFrame{80, 80, 80, 200};
-constexpr QColor hoveredFrame{30, 30, 30, 220};
-
-} // namespace
-
 ColorSample::ColorSample(QWidget *parent)
     : ColorWidget(parent)
-{
-    frameColor = restingFrame;
-}
+{}
 
 void ColorSample::changeColor(const QColor &color)
 {
@@ -38,14 +29,14 @@ void ColorSample::mouseReleasedOnWindow()
 
 void ColorSample::enterEvent(QEvent *)
 {
-    frameColor = hoveredFrame;
+    frameColor = PickerPalette::hoveredFrame;
     setCursor(Qt::PointingHandCursor);
     update();
 }
 
 void ColorSample::leaveEvent(QEvent *)
 {
-    frameColor = restingFrame;
+    frameColor = PickerPalette::restingFrame;
     setCursor(Qt::ArrowCursor);
     update();
 }

@@ -55,19 +55,15 @@ void ColorText::wheelEvent(QWheelEvent *event)
     event->accept();
 }
 
-bool ColorText::textIsValid()
+bool ColorText::textIsValid() const
 {
-    const bool valid = TextStepping::isValid(text(), model);
-    if (valid && model == ColorModel::Hex) {
-        hexLength = text().size();
-    }
-    return valid;
+    return TextStepping::isValid(text(), model);
 }
 
 int ColorText::componentAt(int position) const
 {
     return model == ColorModel::Hex
-               ? TextStepping::hexComponentAt(position, hexLength)
+               ? TextStepping::hexComponentAt(position, text().size())
                : TextStepping::decimalComponentAt(text(), position, separatorText);
 }
 

@@ -35,12 +35,12 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
 
 private:
-    bool textIsValid();
+    bool textIsValid() const;
+    /// Of a text that is valid.
     int componentAt(int position) const;
     void stepAt(int position, int delta);
     void selectNeighbour(int direction);
 
     ColorModel model = ColorModel::Hsv;
     QString separatorText;
-    int hexLength = 6; // of the HEX text last validated, 3 or 6
 };

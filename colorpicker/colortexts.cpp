@@ -12,7 +12,7 @@ QString ColorTexts::rgbTextFromColor(QColor color)
 
 QColor ColorTexts::colorFromRgbText(const QString &text)
 {
-    const QStringList parts = text.split(QLatin1Char(' '), Qt::KeepEmptyParts, Qt::CaseSensitive);
+    const QStringList parts = text.split(QLatin1Char(' '), Qt::KeepEmptyParts);
     QColor color;
     color.setRgb(parts.value(0).toInt(nullptr, 10), parts.value(1).toInt(nullptr, 10),
                  parts.value(2).toInt(nullptr, 10), 255);

@@ -38,7 +38,7 @@ ColorTyping::Typed ColorTyping::withoutHash(const Typed &typed)
 {
     const QString left = typed.text.left(typed.cursor);
     const int hash = left.lastIndexOf(QLatin1Char('#'));
-    const QString digits = ColorTexts::hexFromPastedText(left.mid(hash + 1));
+    const QString digits = ColorTexts::hexFromPastedText(left.mid(hash));
     if (hash < 0 || digits.isEmpty()) {
         return typed;
     }

@@ -1,7 +1,6 @@
 #include "colorpicker/colorwidget.h"
 
 #include "colorpicker/pickeraccessible.h"
-#include "colorpicker/pickerpalette.h"
 
 #include <QKeyEvent>
 #include <QMetaMethod>
@@ -10,7 +9,7 @@
 
 ColorWidget::ColorWidget(QWidget *parent)
     : QWidget(parent)
-    , currentColor(hsv(currentHue, currentSaturation, currentValue))
+    , currentColor(hsv(currentHue, PickerGeometry::svRange, PickerGeometry::svRange))
 {
     PickerAccessible::install();
     setFocusPolicy(Qt::StrongFocus);
@@ -46,7 +45,6 @@ void ColorWidget::focusInEvent(QFocusEvent *event)
     if (event->reason() != Qt::MouseFocusReason && event->reason() != Qt::ActiveWindowFocusReason) {
         showFocus();
     }
-    QWidget::focusInEvent(event);
 }
 
 void ColorWidget::focusOutEvent(QFocusEvent *event)

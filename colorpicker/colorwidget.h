@@ -1,6 +1,7 @@
 #pragma once
 
 #include "colorpicker/pickergeometry.h"
+#include "colorpicker/pickerpalette.h"
 
 #include <QColor>
 #include <QImage>
@@ -75,7 +76,7 @@ protected:
     /// Tells screen readers that what this widget stands for has changed.
     void announceChange();
 
-    QColor frameColor{80, 80, 80, 200};
+    QColor frameColor = PickerPalette::restingFrame;
     bool focusShown = false;
     bool middlePressed = false;
     bool cacheValid = false;

@@ -36,23 +36,16 @@ HexTyping::HexTyping(QLineEdit *watchedField)
     });
 }
 
-bool HexTyping::eventFilter(QObject *watched, QEvent *event)
+bool HexTyping::eventFilter(QObject * /*watched*/, QEvent *event)
 {
-    switch (event->type()) {
-    case QEvent::KeyPress:
-        if (goesOn(*static_cast<QKeyEvent *>(event))) {
-            field->setText(typed.text);
-            field->setCursorPosition(typed.cursor);
-        }
-        break;
-    case QEvent::FocusIn:
-    case QEvent::MouseButtonPress:
+    const QEvent::Type type = event->type();
+    if (type == QEvent::KeyPress && goesOn(*static_cast<QKeyEvent *>(event))) {
+        field->setText(typed.text);
+        field->setCursorPosition(typed.cursor);
+    } else if (type == QEvent::FocusIn || type == QEvent::MouseButtonPress) {
         typed = {};
-        break;
-    default:
-        break;
     }
-    return QObject::eventFilter(watched, event);
+    return false;
 }
 
 bool HexTyping::goesOn(const QKeyEvent &event) const

@@ -1,7 +1,5 @@
 #include "colorpicker/hselector.h"
 
-#include "colorpicker/pickerpalette.h"
-
 #include <QKeyEvent>
 #include <QLinearGradient>
 #include <QMouseEvent>
@@ -17,9 +15,6 @@ HSelector::HSelector(QWidget *parent)
 void HSelector::setHue(int degrees)
 {
     const int stored = currentHue == hueRange ? 0 : currentHue;
-    if (degrees == stored) {
-        return;
-    }
     const QColor color = hsv(degrees, currentSaturation, currentValue);
     if (color.hue() == stored) {
         return;
@@ -112,7 +107,6 @@ void HSelector::drawStrip(int stripHeight)
     }
     gradient.setStops(stops);
     QPainter painter(&cachePixmap);
-    painter.setPen(Qt::NoPen);
     painter.fillRect(cachePixmap.rect(), gradient);
     cacheValid = true;
 }
@@ -137,7 +131,7 @@ void HSelector::paintEvent(QPaintEvent *)
     const QPolygon arrow({QPoint(tip, y + arrowTipHalfHeight), QPoint(tip, y - arrowTipHalfHeight),
                           QPoint(edge, y - arrowBaseHalfHeight),
                           QPoint(edge, y + arrowBaseHalfHeight)});
-    painter.setPen(QPen(Qt::NoBrush, 1, Qt::NoPen, Qt::FlatCap));
+    painter.setPen(Qt::NoPen);
     painter.setBrush(PickerPalette::marker);
     painter.drawPolygon(arrow);
 

@@ -11,6 +11,12 @@
 
 namespace {
 
+/// What the strip's arrow stands at; a grey has no hue.
+int shownHue(const ColorWidget &strip)
+{
+    return std::max(strip.hue(), 0);
+}
+
 class HueAccessible final : public QAccessibleWidget, public QAccessibleValueInterface
 {
 public:
@@ -26,8 +32,7 @@ public:
         }
         return QAccessibleWidget::interface_cast(type);
     }
-    /// A grey has no hue; its arrow stands at 0.
-    QVariant currentValue() const override { return std::max(strip->hue(), 0); }
+    QVariant currentValue() const override { return shownHue(*strip); }
     void setCurrentValue(const QVariant &value) override { strip->chooseHue(value.toInt()); }
     QVariant maximumValue() const override { return PickerGeometry::hueRange; }
     QVariant minimumValue() const override { return 0; }
@@ -107,17 +112,13 @@ QAccessibleInterface *accessibleFor(const QString & /*className*/, QObject *obje
 
 void PickerAccessible::install()
 {
-    static const bool installed = [] {
-        QAccessible::installFactory(accessibleFor);
-        return true;
-    }();
-    Q_UNUSED(installed)
+    QAccessible::installFactory(accessibleFor); // which takes each once
 }
 
 void PickerAccessible::announceChange(ColorWidget &widget)
 {
     if (qobject_cast<HSelector *>(&widget)) {
-        QAccessibleValueChangeEvent event(&widget, std::max(widget.hue(), 0));
+        QAccessibleValueChangeEvent event(&widget, shownHue(widget));
         QAccessible::updateAccessibility(&event);
     } else {
         QAccessibleEvent event(&widget, QAccessible::DescriptionChanged);

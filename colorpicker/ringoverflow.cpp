@@ -58,12 +58,12 @@ void RingOverflow::drawRing(QPainter &painter, const QPoint &middle)
     painter.drawEllipse(middle, ringRadius, ringRadius);
 }
 
-bool RingOverflow::eventFilter(QObject *watched, QEvent *event)
+bool RingOverflow::eventFilter(QObject * /*watched*/, QEvent *event)
 {
     if (event->type() == QEvent::Move || event->type() == QEvent::Resize) {
         followSquare();
     }
-    return QWidget::eventFilter(watched, event);
+    return false;
 }
 
 void RingOverflow::paintEvent(QPaintEvent * /*event*/)

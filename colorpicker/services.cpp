@@ -17,7 +17,7 @@ int componentCount(ColorModel model)
     case ColorModel::Cmyk:
         return 4;
     case ColorModel::Hex:
-        break;
+        return 0;
     }
     return 0;
 }
@@ -37,26 +37,21 @@ Services::Services(QObject *parent)
 
 bool Services::checkFormat(const QString &text, ColorModel model)
 {
-    const QStringList parts = text.split(QLatin1Char(' '), Qt::KeepEmptyParts, Qt::CaseSensitive);
+    const QStringList parts = text.split(QLatin1Char(' '), Qt::KeepEmptyParts);
     return parts.size() == componentCount(model)
            && std::all_of(parts.cbegin(), parts.cend(), isDecimal);
 }
 
 QString Services::normalize(QString text)
 {
-    if (text.isEmpty()) {
-        return text;
-    }
     text = text.trimmed();
-    text.replace(QLatin1Char(','), QLatin1Char(' '), Qt::CaseSensitive);
-    text.replace(QRegExp(QStringLiteral("\\s+"), Qt::CaseSensitive), QStringLiteral(" "));
+    text.replace(QLatin1Char(','), QLatin1Char(' '));
+    text.replace(QRegExp(QStringLiteral("\\s+")), QStringLiteral(" "));
     return text;
 }
 
 void Services::clampColor(QColor &color)
 {
-    const int red = std::clamp(color.red(), 0, 255);
-    const int green = std::clamp(color.green(), 0, 255);
-    const int blue = std::clamp(color.blue(), 0, 255);
-    color.setRgb(red, green, blue, 255);
+    // Whatever a colour was made of, its 8-bit channels are read as 0..255.
+    color.setRgb(color.red(), color.green(), color.blue(), 255);
 }

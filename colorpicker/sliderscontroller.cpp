@@ -1,20 +1,17 @@
 #include "colorpicker/sliderscontroller.h"
 
-#include <utility>
-
 SlidersController::SlidersController(QObject *parent)
     : QObject(parent)
-{
-    guards.fill(true);
-}
+{}
 
 QColor SlidersController::pureColor(Channel channel, int value)
 {
-    QColor color;
     switch (channel) {
-    case Channel::Hue:
+    case Channel::Hue: {
+        QColor color;
         color.setHsv(value, 0, 0); // unlike fromHsv(), takes 360 as 0
         return color;
+    }
     case Channel::Saturation:
         return QColor::fromHsv(0, value, 0);
     case Channel::Value:
@@ -34,24 +31,19 @@ QColor SlidersController::pureColor(Channel channel, int value)
     case Channel::Black:
         return QColor::fromCmyk(0, 0, 0, value);
     }
-    return color;
+    return {};
 }
 
-bool &SlidersController::guard(Channel channel)
+void SlidersController::takeMovement(Channel channel, int value, Announcement announcement)
 {
-    return guards.at(static_cast<std::size_t>(channel));
-}
-
-bool SlidersController::takeMovement(Channel channel)
-{
-    return std::exchange(guard(channel), true);
+    if (awaited.erase(channel) == 0) {
+        (this->*announcement)(pureColor(channel, value));
+    }
 }
 
 void SlidersController::changeHue(int h)
 {
-    if (takeMovement(Channel::Hue)) {
-        emit hueChanged(pureColor(Channel::Hue, h));
-    }
+    takeMovement(Channel::Hue, h, &SlidersController::hueChanged);
 }
 
 void SlidersController::changeHue(const QColor &color)
@@ -61,14 +53,12 @@ void SlidersController::changeHue(const QColor &color)
 
 void SlidersController::changeHueFromSelector(const QColor & /*color*/)
 {
-    guard(Channel::Hue) = false;
+    awaited.insert(Channel::Hue);
 }
 
 void SlidersController::changeSaturation(int s)
 {
-    if (takeMovement(Channel::Saturation)) {
-        emit saturationChanged(pureColor(Channel::Saturation, s));
-    }
+    takeMovement(Channel::Saturation, s, &SlidersController::saturationChanged);
 }
 
 void SlidersController::changeSaturation(const QColor &color)
@@ -78,14 +68,12 @@ void SlidersController::changeSaturation(const QColor &color)
 
 void SlidersController::changeSaturationFromSelector(const QColor & /*color*/)
 {
-    guard(Channel::Saturation) = false;
+    awaited.insert(Channel::Saturation);
 }
 
 void SlidersController::changeValue(int v)
 {
-    if (takeMovement(Channel::Value)) {
-        emit valueChanged(pureColor(Channel::Value, v));
-    }
+    takeMovement(Channel::Value, v, &SlidersController::valueChanged);
 }
 
 void SlidersController::changeValue(const QColor &color)
@@ -95,14 +83,12 @@ void SlidersController::changeValue(const QColor &color)
 
 void SlidersController::changeValueFromSelector(const QColor & /*color*/)
 {
-    guard(Channel::Value) = false;
+    awaited.insert(Channel::Value);
 }
 
 void SlidersController::changeRed(int r)
 {
-    if (takeMovement(Channel::Red)) {
-        emit redChanged(pureColor(Channel::Red, r));
-    }
+    takeMovement(Channel::Red, r, &SlidersController::redChanged);
 }
 
 void SlidersController::changeRed(const QColor &color)
@@ -114,9 +100,7 @@ void SlidersController::changeRedFromSelector(const QColor & /*color*/) {}
 
 void SlidersController::changeGreen(int g)
 {
-    if (takeMovement(Channel::Green)) {
-        emit greenChanged(pureColor(Channel::Green, g));
-    }
+    takeMovement(Channel::Green, g, &SlidersController::greenChanged);
 }
 
 void SlidersController::changeGreen(const QColor &color)
@@ -128,9 +112,7 @@ void SlidersController::changeGreenFromSelector(const QColor & /*color*/) {}
 
 void SlidersController::changeBlue(int b)
 {
-    if (takeMovement(Channel::Blue)) {
-        emit blueChanged(pureColor(Channel::Blue, b));
-    }
+    takeMovement(Channel::Blue, b, &SlidersController::blueChanged);
 }
 
 void SlidersController::changeBlue(const QColor &color)
@@ -142,9 +124,7 @@ void SlidersController::changeBlueFromSelector(const QColor & /*color*/) {}
 
 void SlidersController::changeCyan(int c)
 {
-    if (takeMovement(Channel::Cyan)) {
-        emit cyanChanged(pureColor(Channel::Cyan, c));
-    }
+    takeMovement(Channel::Cyan, c, &SlidersController::cyanChanged);
 }
 
 void SlidersController::changeCyan(const QColor &color)
@@ -156,9 +136,7 @@ void SlidersController::changeCyanFromSelector(const QColor & /*color*/) {}
 
 void SlidersController::changeMagenta(int m)
 {
-    if (takeMovement(Channel::Magenta)) {
-        emit magentaChanged(pureColor(Channel::Magenta, m));
-    }
+    takeMovement(Channel::Magenta, m, &SlidersController::magentaChanged);
 }
 
 void SlidersController::changeMagenta(const QColor &color)
@@ -170,9 +148,7 @@ void SlidersController::changeMagentaFromSelector(const QColor & /*color*/) {}
 
 void SlidersController::changeYellow(int y)
 {
-    if (takeMovement(Channel::Yellow)) {
-        emit yellowChanged(pureColor(Channel::Yellow, y));
-    }
+    takeMovement(Channel::Yellow, y, &SlidersController::yellowChanged);
 }
 
 void SlidersController::changeYellow(const QColor &color)
@@ -184,9 +160,7 @@ void SlidersController::changeYellowFromSelector(const QColor & /*color*/) {}
 
 void SlidersController::changeBlack(int k)
 {
-    if (takeMovement(Channel::Black)) {
-        emit blackChanged(pureColor(Channel::Black, k));
-    }
+    takeMovement(Channel::Black, k, &SlidersController::blackChanged);
 }
 
 void SlidersController::changeBlack(const QColor &color)

@@ -3,7 +3,7 @@
 #include <QColor>
 #include <QObject>
 
-#include <array>
+#include <set>
 
 /// Turns the movements of channel sliders into colours of one channel each, and swallows the one
 /// movement that a selector itself has caused. Built for a panel with sliders; without one, nothing
@@ -15,7 +15,6 @@ class SlidersController : public QObject
 public:
     /// The channels, in the order of the signals and slots below.
     enum class Channel { Hue, Saturation, Value, Red, Green, Blue, Cyan, Magenta, Yellow, Black };
-    static constexpr int channelCount = 10;
 
     explicit SlidersController(QObject *parent = nullptr);
 
@@ -84,10 +83,13 @@ public slots:
     void changeBlackFromSelector(const QColor &color);
 
 private:
-    /// Whether the movement of a channel's slider is the user's own. A movement that a selector has
-    /// caused is forgiven once.
-    bool takeMovement(Channel channel);
-    bool &guard(Channel channel);
+    using Announcement = void (SlidersController::*)(QColor);
 
-    std::array<bool, channelCount> guards;
+    /// Announces the movement of a channel's slider, unless a selector has caused it, which is
+    /// forgiven once.
+    void takeMovement(Channel channel, int value, Announcement announcement);
+
+    /// The channels whose selector has changed, so that the next movement of their slider is its
+    /// own.
+    std::set<Channel> awaited;
 };

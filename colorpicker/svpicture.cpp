@@ -31,7 +31,7 @@ Columns risePerRow(int weight)
     Columns rise{};
     for (int s = 0; s < squareSize; ++s) {
         const auto share = static_cast<quint64>(unit - s * weight) << fractionBits;
-        rise[static_cast<std::size_t>(s)] = static_cast<quint32>(share / unit);
+        rise.at(static_cast<std::size_t>(s)) = static_cast<quint32>(share / unit);
     }
     return rise;
 }
@@ -48,14 +48,10 @@ constexpr int red = 16;
 constexpr int green = 8;
 constexpr int blue = 0;
 
-constexpr std::array<Shifts, 6> shiftsOfSixths{{
-    {red, blue, green},
-    {green, blue, red},
-    {green, red, blue},
-    {blue, red, green},
-    {blue, green, red},
-    {red, green, blue},
-}};
+constexpr std::array shiftsOfSixths{
+    Shifts{red, blue, green}, Shifts{green, blue, red}, Shifts{green, red, blue},
+    Shifts{blue, red, green}, Shifts{blue, green, red}, Shifts{red, green, blue},
+};
 
 // Where the exact result lies on a rounding edge, v * s * w / 15300 = n + 1/2, QColor's floating
 // point falls to either side. Only QColor itself knows, so these few pixels are asked of it. The
@@ -82,7 +78,7 @@ void settleEdges(QRgb *row, int value, int hue, int weight)
 QImage svPicture(int hue)
 {
     const bool grey = hue < 0;
-    const int degrees = grey ? 0 : hue % PickerGeometry::hueRange;
+    const int degrees = hue % PickerGeometry::hueRange; // that of a grey is in the first sixth
     const int sector = degrees / sixth;
     const int place = degrees % sixth;
     const int falling = grey ? 0 : sixth;

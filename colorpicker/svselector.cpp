@@ -119,9 +119,8 @@ void SVSelector::recompute()
     emit valueChanged(currentColor);
 }
 
-void SVSelector::showEvent(QShowEvent *event)
+void SVSelector::showEvent(QShowEvent * /*event*/)
 {
-    ColorWidget::showEvent(event);
     if (!ringOverflow && parentWidget()) {
         ringOverflow = new RingOverflow(*this);
     }

@@ -14,7 +14,7 @@ constexpr int hexComponents = 3;
 // Splitting at an empty separator would cut between all characters.
 QStringList decimalParts(const QString &text, const QString &separator)
 {
-    return separator.isEmpty() ? QStringList(text) : text.split(separator, Qt::KeepEmptyParts);
+    return separator.isEmpty() ? QStringList(text) : text.split(separator);
 }
 
 TextStepping::Span decimalSpan(const QStringList &parts, int index, const QString &separator)

@@ -11,7 +11,7 @@ constexpr quint32 hexDigitLimit = 15;
 // The first `count` numbers of the text, compared unsigned so that a negative one never passes.
 bool allAtMost(const QString &text, int count, quint32 limit)
 {
-    const QStringList parts = text.split(QLatin1Char(' '), Qt::KeepEmptyParts, Qt::CaseSensitive);
+    const QStringList parts = text.split(QLatin1Char(' '), Qt::KeepEmptyParts);
     for (int i = 0; i < count; ++i) {
         if (static_cast<quint32>(parts.value(i).toInt(nullptr, 10)) > limit) {
             return false;
@@ -76,10 +76,7 @@ bool Validator::isValidCmyk(const QString &text)
 
 bool Validator::isValidHex(const QString &text)
 {
-    const int length = text.size();
-    if (length != 3 && length != 6) {
-        return false;
-    }
+    const int length = text.size(); // none but 3 and 6 is in range, whatever the pieces hold
     const int pieceLength = length / 3;
     for (int i = 0; i < 3; ++i) {
         bool ok = false;
