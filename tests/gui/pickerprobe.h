@@ -3,6 +3,7 @@
 #include "colorpicker/colorwidget.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QSignalSpy>
 #include <QTest>
@@ -14,7 +15,7 @@ namespace PickerProbe {
 
 constexpr QRgb background = 0xff2a2a2a;
 
-/// A widget with its protected state open for reading.
+/// A widget with its protected state open.
 template<class Widget> class Opened : public Widget
 {
 public:
@@ -22,6 +23,8 @@ public:
     using Widget::cachePixmap;
     using Widget::cacheValid;
     using Widget::ctrlHeld;
+    using Widget::currentSaturation;
+    using Widget::currentValue;
     using Widget::frameColor;
     using Widget::marker;
     using Widget::middlePressed;
@@ -78,6 +81,15 @@ inline void wheel(QWidget &widget, int delta, Qt::KeyboardModifiers modifiers = 
     event.ignore();
     QApplication::sendEvent(&widget, &event);
     QVERIFY(event.isAccepted());
+}
+
+/// Sends one key event. @return whether the widget accepted it.
+inline bool sendKey(QWidget &widget, QEvent::Type type, int key,
+                    Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    QKeyEvent event(type, key, modifiers);
+    QApplication::sendEvent(&widget, &event);
+    return event.isAccepted();
 }
 
 inline QColor lastColor(const QSignalSpy &spy)

@@ -48,6 +48,10 @@ void TestColorProcessor::processorTexts_data()
                                    << "" << 0;
     QTest::newRow("HEX five digits") << true << "00ff0"
                                      << "" << 0;
+    QTest::newRow("HEX eight digits") << true << "ff00ff00"
+                                      << "" << 0;
+    QTest::newRow("HEX nine digits") << true << "00f00f00f"
+                                     << "" << 0;
     QTest::newRow("HEX signs pass as numbers, name no colour") << true << "+f+f+f"
                                                                << "" << 0;
     QTest::newRow("HEX empty") << true << ""
@@ -65,12 +69,9 @@ void TestColorProcessor::processorTexts()
     connect(&strip, SIGNAL(hueChanged(QColor)), &square, SLOT(changeHue(QColor)));
     const QSignalSpy finished(&processor, SIGNAL(updateFinished()));
     const QSignalSpy changed(&square, SIGNAL(colorChanged(QColor)));
-    if (hex) {
-        processor.setHex(text);
-    } else {
-        processor.setRGB(text);
-    }
+    const QColor set = hex ? processor.setHex(text) : processor.setRGB(text);
     const bool taken = !result.isEmpty();
+    QCOMPARE(set, taken ? QColor(QLatin1Char('#') + result) : QColor());
     QCOMPARE(finished.count(), taken ? 1 : 0);
     QCOMPARE(changed.isEmpty(), !taken);
     QTEST(strip.hue(), "hue");

@@ -23,6 +23,8 @@ private slots:
     void startValues();
     void upAndDown_data();
     void upAndDown();
+    void upAndDownAreConsumed_data();
+    void upAndDownAreConsumed();
     void listenerMayRewriteTheText();
     void typingStillWorks();
     void wheel_data();
@@ -100,6 +102,8 @@ void TestColorTextField::upAndDown_data()
     QTest::newRow("long HEX, last") << true << "10a000" << 5 << up << "10a001" << 5;
     QTest::newRow("long HEX, first") << true << "09a000" << 2 << up << "0aa000" << 2;
     QTest::newRow("invalid HEX") << true << "12345" << 2 << up << "12345" << 2;
+    QTest::newRow("hardly any HEX") << true << "12" << 2 << up << "12" << 2;
+    QTest::newRow("no HEX") << true << "" << 0 << down << "" << 0;
 }
 
 void TestColorTextField::upAndDown()
@@ -125,6 +129,25 @@ void TestColorTextField::upAndDown()
     QCOMPARE(edited.count(), expected == text ? 0 : 1);
     if (!edited.isEmpty()) {
         QCOMPARE(edited.first().first().toString(), expected);
+    }
+}
+
+void TestColorTextField::upAndDownAreConsumed_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("up") << int(Qt::Key_Up);
+    QTest::newRow("down") << int(Qt::Key_Down);
+}
+
+/// Whether they step or not.
+void TestColorTextField::upAndDownAreConsumed()
+{
+    QFETCH(int, key);
+    for (const char *text : {"1 2 3", "no colour"}) {
+        field->setText(QString::fromLatin1(text));
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+        QApplication::sendEvent(field, &event);
+        QVERIFY(event.isAccepted());
     }
 }
 
@@ -209,6 +232,7 @@ void TestColorTextField::tabSelects_data()
     QTest::newRow("invalid") << false << "12 34" << 0 << true << "" << -1;
     QTest::newRow("HEX text, decimal model") << false << "00ff00" << 0 << true << "" << -1;
     QTest::newRow("short HEX") << true << "abc" << 1 << true << "b" << 1;
+    QTest::newRow("hardly any HEX") << true << "12" << 1 << true << "" << -1;
     QTest::newRow("long HEX backward") << true << "aabbcc" << 1 << false << "cc" << 4;
 }
 

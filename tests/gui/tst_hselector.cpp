@@ -7,6 +7,36 @@
 
 using namespace PickerProbe;
 
+namespace {
+
+QImage expectedStrip(int height, int markerY)
+{
+    QImage expected = canvas({54, height});
+    {
+        QLinearGradient gradient(0, 2, 0, height - 2);
+        for (int i = 0; i < 360; ++i) {
+            gradient.setColorAt(i / 360.0, QColor::fromHsvF(i / 360.0, 1.0, 1.0, 1.0));
+        }
+        QPixmap pixmap(40, height - 4);
+        QPainter onPixmap(&pixmap);
+        onPixmap.fillRect(0, 0, 40, height - 4, gradient);
+        onPixmap.end();
+        QPainter painter(&expected);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.drawPixmap(2, 2, pixmap);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(0x33, 0x33, 0x33));
+        painter.drawPolygon(
+            QPolygon({{44, markerY + 1}, {44, markerY - 1}, {54, markerY - 5}, {54, markerY + 5}}));
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(QColor(80, 80, 80, 200), 2));
+        painter.drawRoundedRect(QRectF(3, 3, 38, height - 6), 2, 2);
+    }
+    return expected;
+}
+
+} // namespace
+
 class TestHSelector : public QObject
 {
     Q_OBJECT
@@ -18,9 +48,14 @@ private slots:
     void hueByWheel();
     void hueFromOutside_data();
     void hueFromOutside();
+    void colourKeepsTheStripsOwnValues();
     void stripDrawing_data();
     void stripDrawing();
+    void tallStripDrawing();
+    void stripDrawingOfOtherValues();
     void stripFollowsTheHeight();
+    void stripWithoutRoom_data();
+    void stripWithoutRoom();
 };
 
 void TestHSelector::hueByMouse_data()
@@ -68,6 +103,8 @@ void TestHSelector::hueByWheel_data()
     QTest::newRow("up") << 100 << 120 << none << 99;
     QTest::newRow("down") << 100 << -120 << none << 101;
     QTest::newRow("still") << 100 << 0 << none << 100;
+    QTest::newRow("least up") << 100 << 1 << none << 99;
+    QTest::newRow("least down") << 100 << -1 << none << 101;
     QTest::newRow("up with shift") << 100 << 120 << shift << 90;
     QTest::newRow("down with shift") << 100 << -120 << shift << 110;
     QTest::newRow("ctrl means nothing")
@@ -129,11 +166,22 @@ void TestHSelector::hueFromOutside()
     strip.setHue(given);
     QCOMPARE(strip.hue(), hue);
     QCOMPARE(changed.count(), announced ? 1 : 0);
+    QCOMPARE(strip.color(), hsv(hue, 255, 255));
     if (announced) {
-        QCOMPARE(lastColor(changed).hue(), hue);
-        QCOMPARE(lastColor(changed).saturation(), 255);
-        QCOMPARE(lastColor(changed).value(), 255);
+        QCOMPARE(lastColor(changed), strip.color());
     }
+}
+
+void TestHSelector::colourKeepsTheStripsOwnValues()
+{
+    Opened<HSelector> strip;
+    strip.resize(54, 365);
+    strip.currentSaturation = 100;
+    strip.currentValue = 50;
+    press(strip, {20, 62});
+    QCOMPARE(strip.color(), hsv(60, 100, 50));
+    strip.setHue(200);
+    QCOMPARE(strip.color(), hsv(200, 100, 50));
 }
 
 void TestHSelector::stripDrawing_data()
@@ -160,28 +208,7 @@ void TestHSelector::stripDrawing()
     const QImage image = drawn(strip);
     QCOMPARE(strip.marker.y(), markerY);
 
-    QImage expected = canvas({54, 365});
-    {
-        QLinearGradient gradient(0, 2, 0, 363);
-        for (int i = 0; i < 360; ++i) {
-            gradient.setColorAt(i / 360.0, QColor::fromHsvF(i / 360.0, 1.0, 1.0, 1.0));
-        }
-        QPixmap pixmap(40, 361);
-        QPainter onPixmap(&pixmap);
-        onPixmap.fillRect(0, 0, 40, 361, gradient);
-        onPixmap.end();
-        QPainter painter(&expected);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.drawPixmap(2, 2, pixmap);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(QColor(0x33, 0x33, 0x33));
-        painter.drawPolygon(
-            QPolygon({{44, markerY + 1}, {44, markerY - 1}, {54, markerY - 5}, {54, markerY + 5}}));
-        painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(QColor(80, 80, 80, 200), 2));
-        painter.drawRoundedRect(QRectF(3, 3, 38, 359), 2, 2);
-    }
-    QCOMPARE(image, expected);
+    QCOMPARE(image, expectedStrip(365, markerY));
 
     // The wedge is wide at the edge and narrow at its tip.
     QCOMPARE(image.pixel(53, markerY), 0xff333333U);
@@ -195,6 +222,25 @@ void TestHSelector::stripDrawing()
     QVERIFY(qBlue(image.pixel(20, 244)) > 250 && qGreen(image.pixel(20, 244)) < 5);
 }
 
+/// So tall that the last of the gradient's colours is to be seen.
+void TestHSelector::tallStripDrawing()
+{
+    HSelector strip;
+    strip.resize(54, 3604);
+    QCOMPARE(drawn(strip), expectedStrip(3604, 2));
+}
+
+void TestHSelector::stripDrawingOfOtherValues()
+{
+    Opened<HSelector> strip;
+    strip.resize(54, 365);
+    strip.stripSaturation = 0.5;
+    strip.stripValue = 0.8;
+    drawn(strip);
+    // The strip begins with red, which the margin above the gradient has, too.
+    QCOMPARE(strip.cachePixmap.toImage().pixel(20, 0), QColor::fromHsvF(0.0, 0.5, 0.8).rgb());
+}
+
 void TestHSelector::stripFollowsTheHeight()
 {
     Opened<HSelector> strip;
@@ -204,11 +250,31 @@ void TestHSelector::stripFollowsTheHeight()
     const qint64 key = strip.cachePixmap.cacheKey();
     drawn(strip);
     QCOMPARE(strip.cachePixmap.cacheKey(), key);
+    strip.cacheValid = false;
+    drawn(strip);
+    QVERIFY(strip.cachePixmap.cacheKey() != key);
+    QVERIFY(strip.cacheValid);
     strip.resize(54, 400);
     drawn(strip);
     QCOMPARE(strip.cachePixmap.size(), QSize(40, 396));
-    strip.resize(54, 3);
-    drawn(strip); // no room for a strip: nothing to draw, and no complaint
+}
+
+void TestHSelector::stripWithoutRoom_data()
+{
+    QTest::addColumn<int>("height");
+    QTest::addColumn<bool>("isDrawn");
+    QTest::newRow("less than its margins") << 3 << false;
+    QTest::newRow("its margins alone") << 4 << false;
+    QTest::newRow("a pixel more") << 5 << true;
+}
+
+void TestHSelector::stripWithoutRoom()
+{
+    QFETCH(int, height);
+    HSelector strip;
+    strip.resize(54, height);
+    const QImage image = drawn(strip);
+    QTEST(image != canvas({54, height}), "isDrawn");
 }
 
 QTEST_MAIN(TestHSelector)

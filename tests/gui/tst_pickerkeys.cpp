@@ -109,6 +109,7 @@ void TestPickerKeys::squareByArrows_data()
     QTest::newRow("left") << Qt::Key_Left << none << 254 << 128;
     QTest::newRow("right, at the edge") << Qt::Key_Right << none << 255 << 128;
     QTest::newRow("shift up") << Qt::Key_Up << shift << 255 << 138;
+    QTest::newRow("shift down") << Qt::Key_Down << shift << 255 << 118;
     QTest::newRow("shift left") << Qt::Key_Left << shift << 245 << 128;
 }
 

@@ -100,6 +100,8 @@ void TestSVSelector::squareByWheel_data()
     QTest::newRow("up") << 120 << none << 100 << 201;
     QTest::newRow("down") << -120 << none << 100 << 199;
     QTest::newRow("still") << 0 << none << 100 << 200;
+    QTest::newRow("least up") << 1 << none << 100 << 201;
+    QTest::newRow("least down") << -1 << none << 100 << 199;
     QTest::newRow("up, shift") << 120 << shift << 100 << 210;
     QTest::newRow("down, shift") << -120 << shift << 100 << 190;
     QTest::newRow("up, ctrl") << 120 << ctrl << 101 << 200;

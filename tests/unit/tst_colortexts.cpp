@@ -80,8 +80,10 @@ void TestColorTexts::checkFormat_data()
     QTest::newRow("empty") << "" << ColorModel::Rgb << false;
     QTest::newRow("HEX never") << "ff0000" << ColorModel::Hex << false;
     QTest::newRow("HEX never, with blanks") << "1 2 3" << ColorModel::Hex << false;
+    QTest::newRow("HEX never, one number") << "123456" << ColorModel::Hex << false;
     QTest::newRow("empty HEX") << "" << ColorModel::Hex << false;
     QTest::newRow("unknown model") << "1 2 3" << noModel << false;
+    QTest::newRow("unknown model, one number") << "1" << noModel << false;
 }
 
 void TestColorTexts::checkFormat()
@@ -155,7 +157,9 @@ void TestColorTexts::validators_data()
     QTest::newRow("missing counts as 0") << "255 0" << ColorModel::Rgb << true;
     QTest::newRow("empty counts as 0") << "" << ColorModel::Rgb << true;
     QTest::newRow("fourth is not looked at") << "1 2 3 999" << ColorModel::Rgb << true;
+    QTest::newRow("an empty part is one, too") << "1  2 999" << ColorModel::Rgb << true;
     QTest::newRow("CMYK") << "255 255 255 255" << ColorModel::Cmyk << true;
+    QTest::newRow("fifth is not looked at") << "1 2 3 4 999" << ColorModel::Cmyk << true;
     QTest::newRow("cyan too high") << "256 0 0 0" << ColorModel::Cmyk << false;
     QTest::newRow("magenta too high") << "0 256 0 0" << ColorModel::Cmyk << false;
     QTest::newRow("yellow too high") << "0 0 256 0" << ColorModel::Cmyk << false;
@@ -163,6 +167,7 @@ void TestColorTexts::validators_data()
     QTest::newRow("negative black") << "0 0 0 -1" << ColorModel::Cmyk << false;
     QTest::newRow("HSV 359 in all three, on purpose") << "359 359 359" << ColorModel::Hsv << true;
     QTest::newRow("HSV 300 in the last two") << "10 300 300" << ColorModel::Hsv << true;
+    QTest::newRow("fourth beside HSV") << "1 2 3 999" << ColorModel::Hsv << true;
     QTest::newRow("hue 360") << "360 0 0" << ColorModel::Hsv << false;
     QTest::newRow("saturation 360") << "0 360 0" << ColorModel::Hsv << false;
     QTest::newRow("value 360") << "0 0 360" << ColorModel::Hsv << false;
@@ -172,6 +177,9 @@ void TestColorTexts::validators_data()
     QTest::newRow("upper HEX") << "FF00AA" << ColorModel::Hex << true;
     QTest::newRow("five digits") << "ff00a" << ColorModel::Hex << false;
     QTest::newRow("four digits") << "ff00" << ColorModel::Hex << false;
+    QTest::newRow("two digits") << "ff" << ColorModel::Hex << false;
+    QTest::newRow("seven digits") << "ff00aa0" << ColorModel::Hex << false;
+    QTest::newRow("nine digits") << "00f00f00f" << ColorModel::Hex << false;
     QTest::newRow("hash before six") << "#ff00aa" << ColorModel::Hex << false;
     QTest::newRow("hash in six") << "#f00aa" << ColorModel::Hex << false;
     QTest::newRow("not digits") << "gg0000" << ColorModel::Hex << false;
@@ -246,6 +254,7 @@ void TestColorTexts::clampColor_data()
 
     QTest::newRow("inside") << QColor(1, 2, 3) << QColor(1, 2, 3, 255);
     QTest::newRow("ends") << QColor(0, 255, 0) << QColor(0, 255, 0, 255);
+    QTest::newRow("other ends") << QColor(255, 0, 255) << QColor(255, 0, 255, 255);
     QTest::newRow("alpha") << QColor(1, 2, 3, 4) << QColor(1, 2, 3, 255);
     QTest::newRow("HSV becomes RGB") << QColor::fromHsv(120, 255, 255) << QColor(0, 255, 0, 255);
     QTest::newRow("beyond the ends") << QColor::fromRgbF(1.5, -0.5, 0.0) << QColor(255, 0, 0, 255);
@@ -285,6 +294,8 @@ void TestColorTexts::colorFromRgbText_data()
     QTest::addColumn<QColor>("expected");
 
     QTest::newRow("red") << "255 0 0" << QColor(255, 0, 0, 255);
+    QTest::newRow("all in base 10") << "19 128 255" << QColor(19, 128, 255, 255);
+    QTest::newRow("zero-filled") << "010 020 099" << QColor(10, 20, 99, 255);
     QTest::newRow("not a number is 0") << "1 x 3" << QColor(1, 0, 3, 255);
     QTest::newRow("missing is 0") << "7" << QColor(7, 0, 0, 255);
     QTest::newRow("fourth is dropped") << "1 2 3 4" << QColor(1, 2, 3, 255);

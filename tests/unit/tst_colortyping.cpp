@@ -84,6 +84,8 @@ void TestColorTyping::hashes_data()
     row("#gg0000|", "#gg0000|");
     row("ff00aa|", "ff00aa|");
     row("f|00", "f|00");
+    row("ff0|0a1", "ff0|0a1");
+    row("ff00aa|0a1", "ff00aa|0a1");
     row("|", "|");
 }
 

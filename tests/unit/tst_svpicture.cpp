@@ -1,4 +1,6 @@
+#include "colorpicker/colormodel.h"
 #include "colorpicker/pickergeometry.h"
+#include "colorpicker/pickerpalette.h"
 #include "colorpicker/svpicture.h"
 
 #include <QColor>
@@ -12,10 +14,14 @@ private slots:
     void everyPixelIsWhatQColorGives_data();
     void everyPixelIsWhatQColorGives();
     void fullCircleIsRed();
+    void sizes();
+    void palette();
+    void modelNumbers();
     void markersAndValues_data();
     void markersAndValues();
     void hueMarkers_data();
     void hueMarkers();
+    void valuesBeyondTheirRange();
 };
 
 void TestSvPicture::everyPixelIsWhatQColorGives_data()
@@ -60,6 +66,49 @@ void TestSvPicture::fullCircleIsRed()
 {
     QCOMPARE(svPicture(360), svPicture(0));
     QCOMPARE(svPicture(360).pixel(255, 0), 0xffff0000U);
+}
+
+void TestSvPicture::sizes()
+{
+    using namespace PickerGeometry;
+    QCOMPARE(hueRange, 360);
+    QCOMPARE(svRange, 255);
+    QCOMPARE(hueStep, 1.0 / 360);
+    QCOMPARE(margin, 2);
+    QCOMPARE(cornerRadius, 10);
+    QCOMPARE(frameWidth, 2);
+    QCOMPARE(pixmapOrigin, QPoint(2, 2));
+    QCOMPARE(stripWidth, 40);
+    QCOMPARE(hueTop, 2);
+    QCOMPARE(hueBottom, 362);
+    QCOMPARE(arrowLength, 10);
+    QCOMPARE(arrowTipHalfHeight, 1);
+    QCOMPARE(arrowBaseHalfHeight, 5);
+    QCOMPARE(squareSize, 256);
+    QCOMPARE(svLow, 2);
+    QCOMPARE(svHigh, 257);
+    QCOMPARE(ringRadius, 5);
+    QCOMPARE(ringWidth, 2);
+    QCOMPARE(slowWheelStep, 1);
+    QCOMPARE(fastWheelStep, 10);
+}
+
+void TestSvPicture::palette()
+{
+    QCOMPARE(PickerPalette::outline, QColor(QStringLiteral("#ddd")));
+    QCOMPARE(PickerPalette::marker, QColor(QStringLiteral("#333")));
+    QCOMPARE(PickerPalette::middle, QColor(QStringLiteral("#555")));
+    QCOMPARE(PickerPalette::focus, QColor(QStringLiteral("#fff")));
+    QCOMPARE(PickerPalette::restingFrame, QColor(80, 80, 80, 200));
+    QCOMPARE(PickerPalette::hoveredFrame, QColor(30, 30, 30, 220));
+}
+
+void TestSvPicture::modelNumbers()
+{
+    QCOMPARE(int(ColorModel::Hsv), 0);
+    QCOMPARE(int(ColorModel::Rgb), 1);
+    QCOMPARE(int(ColorModel::Cmyk), 2);
+    QCOMPARE(int(ColorModel::Hex), 3);
 }
 
 void TestSvPicture::markersAndValues_data()
@@ -117,6 +166,16 @@ void TestSvPicture::hueMarkers()
     QTEST(hue, "hue");
     QTEST(markerOfHue(hue), "placed");
     QCOMPARE(markerOfHue(-1), 2);
+}
+
+/// As a screen reader may ask for.
+void TestSvPicture::valuesBeyondTheirRange()
+{
+    using namespace PickerGeometry;
+    QCOMPARE(markerOfHue(500), 362);
+    QCOMPARE(markerOfHue(-500), 2);
+    QCOMPARE(markerOf(300, -45), QPoint(257, 257));
+    QCOMPARE(markerOf(-45, 300), QPoint(2, 2));
 }
 
 QTEST_GUILESS_MAIN(TestSvPicture)

@@ -17,6 +17,7 @@ private slots:
     void decimalComponentAt();
     void stepText_data();
     void stepText();
+    void stepJoinsWithTheSeparator();
     void componentSpan_data();
     void componentSpan();
 };
@@ -35,6 +36,10 @@ void TestTextStepping::hexComponentAt_data()
     for (std::size_t i = 0; i < ofSix.size(); ++i) {
         QTest::addRow("6 digits, at %d", int(i)) << 6 << int(i) << ofSix[i];
     }
+    QTest::newRow("behind 3 digits") << 3 << 4 << 2;
+    QTest::newRow("far behind 3 digits") << 3 << 9 << 2;
+    QTest::newRow("behind 6 digits") << 6 << 7 << 2;
+    QTest::newRow("far behind 6 digits") << 6 << 20 << 2;
 }
 
 void TestTextStepping::hexComponentAt()
@@ -64,6 +69,8 @@ void TestTextStepping::decimalComponentAt_data()
                                   << ", " << 1 << 0;
     QTest::newRow("in its middle") << "1, 2, 3"
                                    << ", " << 2 << 1;
+    QTest::newRow("at the very start") << " 1 2"
+                                       << " " << 1 << 1;
     QTest::newRow("separators do not overlap") << "1---2"
                                                << "--" << 5 << 1;
     QTest::newRow("no separator") << "123"
@@ -141,6 +148,16 @@ void TestTextStepping::stepText()
         QCOMPARE(stepped->text, expected);
         QTEST(stepped->cursor, "cursor");
     }
+}
+
+/// Also a HEX text, whose pieces no separator has kept apart.
+void TestTextStepping::stepJoinsWithTheSeparator()
+{
+    const auto stepped = TextStepping::step(QStringLiteral("0a0b0c"), 2, 1, 3,
+                                            {ColorModel::Hex, QStringLiteral("-")});
+    QVERIFY(stepped.has_value());
+    QCOMPARE(stepped->text, QStringLiteral("0a-0b-0d"));
+    QCOMPARE(stepped->cursor, 3);
 }
 
 void TestTextStepping::componentSpan_data()
