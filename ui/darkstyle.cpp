@@ -13,6 +13,7 @@
 #include <QTabBar>
 
 #include <array>
+#include <optional>
 
 namespace {
 
@@ -20,8 +21,7 @@ struct PaletteRow
 {
     QPalette::ColorRole role;
     QPalette::ColorGroup group;
-    QRgb colour;
-    bool fromBranding = false; ///< the branding file's highlight colour stands in for colour
+    std::optional<QRgb> colour; ///< empty: the branding file's highlight colour
 };
 
 constexpr QRgb white = qRgb(255, 255, 255);
@@ -52,7 +52,7 @@ constexpr std::array darkPalette{
     PaletteRow{QPalette::ButtonText, QPalette::Disabled, disabledText},
     PaletteRow{QPalette::BrightText, QPalette::All, qRgb(255, 0, 0)},
     PaletteRow{QPalette::Link, QPalette::All, qRgb(42, 130, 218)},
-    PaletteRow{QPalette::Highlight, QPalette::All, qRgb(0, 0, 0), true},
+    PaletteRow{QPalette::Highlight, QPalette::All, std::nullopt},
     PaletteRow{QPalette::Highlight, QPalette::Disabled, qRgb(80, 80, 80)},
     PaletteRow{QPalette::HighlightedText, QPalette::All, white},
     PaletteRow{QPalette::HighlightedText, QPalette::Disabled, disabledText},
@@ -95,7 +95,7 @@ void DarkStyle::polish(QPalette &palette)
 {
     const QColor highlight = brandingHighlight();
     for (const PaletteRow &row : darkPalette) {
-        palette.setBrush(row.group, row.role, row.fromBranding ? highlight : QColor(row.colour));
+        palette.setBrush(row.group, row.role, row.colour ? QColor(*row.colour) : highlight);
     }
 }
 
@@ -155,13 +155,14 @@ void DarkStyle::drawItemText(QPainter *painter, const QRect &rect, int flags,
 
 void DarkStyle::layOutTabs(QTabBar *bar)
 {
-    int last = bar->count() - 1;
-    while (last > 0 && !bar->isTabVisible(last)) {
-        --last;
+    bool lastTabEnabled = false;
+    for (int tab = 0; tab < bar->count(); ++tab) {
+        if (bar->isTabVisible(tab)) {
+            lastTabEnabled = bar->isTabEnabled(tab);
+        }
     }
-    bar->setProperty("lastTabEnabled", bar->isTabEnabled(last));
+    bar->setProperty("lastTabEnabled", lastTabEnabled);
     // Rules on a widget's properties are looked up only when it is polished.
-    bar->style()->unpolish(bar);
     bar->style()->polish(bar);
     QEvent styleChange(QEvent::StyleChange);
     QCoreApplication::sendEvent(bar, &styleChange);
@@ -174,7 +175,7 @@ bool DarkStyle::eventFilter(QObject *watched, QEvent *event)
             layOutTabs(bar);
         }
     }
-    return QProxyStyle::eventFilter(watched, event);
+    return false;
 }
 
 QColor DarkStyle::brandingHighlight() const

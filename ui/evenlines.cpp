@@ -1,12 +1,14 @@
 #include "ui/evenlines.h"
 
 #include <QFontMetrics>
+#include <QWidget>
 
 int evenWidth(const QString &text, const QFont &font, int widest)
 {
     const QFontMetrics metrics(font);
     const auto wrapped = [&](int width) {
-        return metrics.boundingRect(0, 0, width, 0, Qt::TextWordWrap, text);
+        const QRect room(QPoint(), QSize(width, QWIDGETSIZE_MAX));
+        return metrics.boundingRect(room, Qt::TextWordWrap, text);
     };
     const QRect atWidest = wrapped(widest);
     int tooNarrow = 0;

@@ -12,7 +12,7 @@ GrooveClick::GrooveClick(QSlider *watchedSlider)
     slider->installEventFilter(this);
 }
 
-bool GrooveClick::eventFilter(QObject *watched, QEvent *event)
+bool GrooveClick::eventFilter(QObject * /*watched*/, QEvent *event)
 {
     if (event->type() == QEvent::MouseButtonPress && slider->isEnabled()) {
         const auto *const press = static_cast<QMouseEvent *>(event);
@@ -21,14 +21,13 @@ bool GrooveClick::eventFilter(QObject *watched, QEvent *event)
         }
     }
     // The slider then takes it for a press on the handle, which is there by now.
-    return QObject::eventFilter(watched, event);
+    return false;
 }
 
 void GrooveClick::goTo(const QPoint &position)
 {
     QStyleOptionSlider option;
     option.initFrom(slider);
-    option.orientation = slider->orientation();
     option.minimum = slider->minimum();
     option.maximum = slider->maximum();
     option.sliderPosition = slider->sliderPosition();
