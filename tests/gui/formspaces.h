@@ -16,12 +16,13 @@ struct Spaces
     int down;         ///< between rows; 0 in a box
     const char *rows; ///< stretch factors of rows, or of a box's items; empty: all 0
     const char *columns;
-    const char *leastHeights; ///< of rows
+    const char *leastHeights;     ///< of rows
+    const char *leastWidths = ""; ///< of columns
 };
 inline constexpr int byStyle = -1;
 inline const std::array spaces{
     Spaces{"verticalLayout", {9, 9, 9, 9}, 6, 0, "", "", ""},
-    Spaces{"gridLayout_4", {0, 0, 0, 0}, 6, byStyle, "", "1,0,0", ""},
+    Spaces{"gridLayout_4", {0, 0, 0, 0}, 6, 6, "", "1,0,0", ""},
     Spaces{"gridLayout_5", {6, 6, 9, 6}, byStyle, byStyle, "", "", ""},
     Spaces{"horizontalLayout_6", {0, 0, 0, 0}, 24, 0, "0,1", "", ""},
     Spaces{"verticalLayout_2", {0, 0, 0, 0}, 4, 0, "0,1,1", "", ""},
@@ -42,7 +43,7 @@ inline const std::array spaces{
     Spaces{"horizontalLayout_11", {0, 0, 0, 0}, 6, 0, "1,6", "", ""},
     Spaces{"horizontalLayout_12", {0, 0, 0, 0}, 6, 0, "1,6", "", ""},
     Spaces{"gridLayout_9", {9, 4, 9, 4}, 6, byStyle, "", "", ""},
-    Spaces{"gridLayout_7", {6, 9, 9, 9}, 24, 4, "", "0,1", ""},
+    Spaces{"gridLayout_7", {6, 9, 9, 9}, 24, 4, "", "0,1", "", "250,0"},
     Spaces{"gridLayout_8", {9, 9, 9, 9}, 6, 4, "", "", ""},
     Spaces{"horizontalLayout_2", {0, 0, 0, 0}, 24, 0, "0,1", "", ""},
     Spaces{"horizontalLayout_4", {0, 6, 0, 0}, 24, 0, "0,1", "", ""},

@@ -1,4 +1,5 @@
 #include "formlooks.h"
+#include "formrows.h"
 #include "formspaces.h"
 #include "formtables.h"
 #include "formwindow.h"
@@ -41,18 +42,6 @@ int turn(const QLayout &box, int index)
     return before;
 }
 
-/// One test row a table row, named by one of its texts.
-template<typename Row, std::size_t size>
-void addRows(const std::array<Row, size> &table, const char *Row::*name)
-{
-    QTest::addColumn<int>("index");
-    int index = 0;
-    for (const Row &row : table) {
-        QTest::addRow("%d %s", index, row.*name) << index;
-        ++index;
-    }
-}
-
 /// How many rows of a table bear this text.
 template<typename Row, std::size_t size>
 int countRows(const std::array<Row, size> &table, const char *Row::*name, const char *wanted)
@@ -60,12 +49,6 @@ int countRows(const std::array<Row, size> &table, const char *Row::*name, const 
     return static_cast<int>(std::count_if(std::begin(table), std::end(table), [&](const Row &row) {
         return qstrcmp(row.*name, wanted) == 0;
     }));
-}
-
-/// One of several numbers with commas between them; 0 where there are fewer.
-int number(const char *list, int index)
-{
-    return QString::fromLatin1(list).section(QLatin1Char(','), index, index).toInt();
 }
 
 } // namespace
@@ -85,12 +68,6 @@ private slots:
     void layout();
     void widget_data();
     void widget();
-    void spaces_data();
-    void spaces();
-    void verticalSpacer_data();
-    void verticalSpacer();
-    void effectsBarSpacer();
-    void pickerSpacers();
     void page_data();
     void page();
     void comboItems_data();
@@ -107,7 +84,6 @@ private:
     }
     void checkPlace(const formtables::Place &place, const QObject *object) const;
     void checkLooks(const QWidget &widget, const char *object) const;
-    static void checkSpacer(QLayoutItem &item, int height, QSizePolicy::Policy policy);
 
     std::unique_ptr<QMainWindow> window;
 };
@@ -204,10 +180,6 @@ void TestForm::layout()
     QFETCH(int, index);
     const formtables::Place &row = formtables::layouts.at(static_cast<std::size_t>(index));
     checkPlace(row, window->findChild<QLayout *>(QLatin1String(row.object)));
-    if (qstrcmp(row.object, "gridLayout_4") == 0) {
-        QCOMPARE(window->findChild<QGridLayout *>(QLatin1String(row.object))->horizontalSpacing(),
-                 6);
-    }
 }
 
 void TestForm::widget_data()
@@ -273,89 +245,6 @@ void TestForm::checkLooks(const QWidget &widget, const char *object) const
     }
     QVERIFY(!widget.autoFillBackground() || !qstrcmp(object, "tabWidget")
             || !qstrcmp(object, "tabWidget_2"));
-}
-
-void TestForm::spaces_data()
-{
-    addRows(formtables::spaces, &formtables::Spaces::layout);
-}
-
-void TestForm::spaces()
-{
-    QFETCH(int, index);
-    const formtables::Spaces &row = formtables::spaces.at(static_cast<std::size_t>(index));
-    const auto *layout = window->findChild<QLayout *>(QLatin1String(row.layout));
-    QVERIFY(layout);
-    QCOMPARE(layout->contentsMargins(), row.margins);
-    if (const auto *box = qobject_cast<const QBoxLayout *>(layout)) {
-        QVERIFY(row.across == formtables::byStyle || box->spacing() == row.across);
-        for (int i = 0; i < box->count(); ++i) {
-            QCOMPARE(box->stretch(i), number(row.rows, i));
-        }
-        return;
-    }
-    const auto *grid = qobject_cast<const QGridLayout *>(layout);
-    QVERIFY(grid);
-    QVERIFY(row.across == formtables::byStyle || grid->horizontalSpacing() == row.across);
-    QVERIFY(row.down == formtables::byStyle || grid->verticalSpacing() == row.down);
-    for (int i = 0; i < grid->rowCount(); ++i) {
-        QCOMPARE(grid->rowStretch(i), number(row.rows, i));
-        QCOMPARE(grid->rowMinimumHeight(i), number(row.leastHeights, i));
-    }
-    for (int i = 0; i < grid->columnCount(); ++i) {
-        QCOMPARE(grid->columnStretch(i), number(row.columns, i));
-    }
-}
-
-void TestForm::verticalSpacer_data()
-{
-    addRows(formtables::verticalSpacers, &formtables::SpacerRow::layout);
-}
-
-void TestForm::verticalSpacer()
-{
-    QFETCH(int, index);
-    const auto &row = formtables::verticalSpacers.at(static_cast<std::size_t>(index));
-    auto *grid = window->findChild<QGridLayout *>(QLatin1String(row.layout));
-    QVERIFY(grid);
-    QLayoutItem *item = grid->itemAtPosition(row.row, 0);
-    QVERIFY(item);
-    checkSpacer(*item, row.height, row.policy);
-    for (int column = 1; column < grid->columnCount(); ++column) {
-        QLayoutItem *other = grid->itemAtPosition(row.row, column);
-        QVERIFY(!other || other == item);
-    }
-}
-
-void TestForm::effectsBarSpacer()
-{
-    auto *grid = window->findChild<QGridLayout *>(QStringLiteral("gridLayout_9"));
-    QVERIFY(grid);
-    QLayoutItem *item = grid->itemAtPosition(0, 2);
-    QVERIFY(item);
-    QVERIFY(item->spacerItem());
-    QCOMPARE(item->sizeHint(), QSize(50, 20));
-    QCOMPARE(item->spacerItem()->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
-}
-
-/// Between the picker's fields, its list and its buttons.
-void TestForm::pickerSpacers()
-{
-    auto *box = window->findChild<QBoxLayout *>(QStringLiteral("verticalLayout_7"));
-    QVERIFY(box);
-    for (const int index : {2, 5}) {
-        QVERIFY(box->itemAt(index));
-        checkSpacer(*box->itemAt(index), 8, QSizePolicy::Expanding);
-    }
-}
-
-void TestForm::checkSpacer(QLayoutItem &item, int height, QSizePolicy::Policy policy)
-{
-    const QSpacerItem *spacer = item.spacerItem();
-    QVERIFY(spacer);
-    QCOMPARE(spacer->sizeHint(), QSize(1, height));
-    QCOMPARE(spacer->sizePolicy().horizontalPolicy(), QSizePolicy::Minimum);
-    QCOMPARE(spacer->sizePolicy().verticalPolicy(), policy);
 }
 
 void TestForm::page_data()
