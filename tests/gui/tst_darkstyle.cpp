@@ -1,4 +1,5 @@
 #include "app/startup.h"
+#include "tests/support/notedmessages.h"
 #include "tests/support/testwindow.h"
 #include "ui/darkstyle.h"
 
@@ -31,6 +32,7 @@ namespace {
 constexpr const char *firstStyleWins = "--first-style-wins";
 constexpr const char *installedFont = "--installed-font";
 constexpr const char *withoutSheet = "--without-sheet";
+constexpr const char *baseOfTheDesktops = "--base-of-the-desktops";
 
 // Exit codes of installedFont, besides the points by which the font has grown.
 constexpr int pixelSizeStood = 100;
@@ -71,7 +73,10 @@ int lookWithoutSheet()
     std::fflush(stdout);
     const bool darkAlone = qApp->styleSheet().isEmpty()
                            && QApplication::palette().color(QPalette::Window) == QColor(48, 48, 48);
-    return darkAlone ? 0 : 1;
+    const QString others = QStringLiteral("QLabel { margin: 1px; }");
+    qApp->setStyleSheet(others);
+    style->polish(qApp);
+    return darkAlone && qApp->styleSheet() == others ? 0 : 1;
 }
 
 const QString sheetResource = QStringLiteral(":/darkstyle/darkstyle.qss");
@@ -125,6 +130,7 @@ private slots:
     void brandingIsReadAtEachPolish();
 
     void baseStyleIsFusionAndStays();
+    void baseStyleIsNotTheDesktops();
     void firstGivenStyleWins();
     void stylesComeAndGo_data();
     void stylesComeAndGo();
@@ -136,6 +142,7 @@ private slots:
     void fontAtStart();
     void polishSetsTheSheet();
     void missingSheetIsTold();
+    void bringsItsSheetAlong();
     void polishWithoutApplication();
 
 private:
@@ -221,6 +228,15 @@ void TestDarkStyle::baseStyleIsFusionAndStays()
     QCOMPARE(DarkStyle::sharedBaseStyle(late.get()), base);
 }
 
+/// Whatever style the program is started with.
+void TestDarkStyle::baseStyleIsNotTheDesktops()
+{
+    QCOMPARE(QProcess::execute(QCoreApplication::applicationFilePath(),
+                               {QStringLiteral("-style"), QStringLiteral("Windows"),
+                                QLatin1String(baseOfTheDesktops)}),
+             0);
+}
+
 void TestDarkStyle::firstGivenStyleWins()
 {
     QCOMPARE(
@@ -286,9 +302,11 @@ void TestDarkStyle::pixelSizeStands()
     QFont font = QApplication::font();
     font.setPixelSize(17);
     QApplication::setFont(font);
+    const NotedMessages noted;
     DarkStyle().polish(qApp);
     QCOMPARE(QApplication::font().pixelSize(), 17);
     QCOMPARE(QApplication::font().pointSize(), -1);
+    QCOMPARE(NotedMessages::texts, QStringList()); // nobody asked for points
 }
 
 void TestDarkStyle::pointSizeGrowsByOne()
@@ -305,10 +323,12 @@ void TestDarkStyle::pointSizeGrowsByOne()
         style.polish(qApp);
         QCOMPARE(QApplication::font().pointSize(), 31);
     }
-    font.setPointSize(40);
-    QApplication::setFont(font);
-    DarkStyle().polish(qApp);
-    QCOMPARE(QApplication::font().pointSize(), 41);
+    for (const int size : {1, 40}) {
+        font.setPointSize(size);
+        QApplication::setFont(font);
+        DarkStyle().polish(qApp);
+        QCOMPARE(QApplication::font().pointSize(), size + 1);
+    }
 }
 
 void TestDarkStyle::fontAtStart_data()
@@ -355,6 +375,14 @@ void TestDarkStyle::missingSheetIsTold()
              QByteArray("Unable to set stylesheet, file not found\n"));
 }
 
+void TestDarkStyle::bringsItsSheetAlong()
+{
+    removeSheet();
+    QVERIFY(!QFile::exists(sheetResource));
+    const DarkStyle style;
+    QVERIFY(QFile::exists(sheetResource));
+}
+
 void TestDarkStyle::polishWithoutApplication()
 {
     const QFont font = QApplication::font();
@@ -371,6 +399,10 @@ int main(int argc, char **argv)
             DarkStyle::sharedBaseStyle(given) == given && DarkStyle::sharedBaseStyle() == given
             && DarkStyle().baseStyle() == given && DarkStyle::sharedBaseStyle() == given;
         return kept ? 0 : 1;
+    }
+    if (app.arguments().contains(QLatin1String(baseOfTheDesktops))) {
+        const QStyle *const base = DarkStyle::sharedBaseStyle();
+        return qstrcmp(base->metaObject()->className(), "QFusionStyle");
     }
     if (app.arguments().contains(QLatin1String(installedFont))) {
         return growthOfInstalledFont();

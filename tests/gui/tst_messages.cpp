@@ -131,6 +131,7 @@ void TestMessages::evenLines_data()
     QTest::newRow("three lines") << QStringLiteral("aa bb cc dd ee ff gg hh ii jj kk ll") << 40
                                  << 3;
     QTest::newRow("paragraphs") << QStringLiteral("short\none two three four five six") << 95 << 3;
+    QTest::newRow("one word") << QStringLiteral("word") << 300 << 1;
     QTest::newRow("no text") << QString() << 100 << 0;
 }
 
@@ -156,9 +157,19 @@ void TestMessages::evenLines()
     QVERIFY(width <= widest);
     QCOMPARE(linesAt(width), lines);
     QCOMPARE(linesAt(widest), lines);
-    if (!text.isEmpty()) {
+    if (text.contains(QLatin1Char(' '))) {
         QVERIFY2(linesAt(width - 2) > lines || width < 2, "it could be narrower");
     }
+    const auto textAt = [&](int most) {
+        const QRect room(QPoint(), QSize(most, 1000));
+        return QFontMetrics(font).boundingRect(room, Qt::TextWordWrap, text);
+    };
+    const auto fits = [&](int most) {
+        const QRect rect = textAt(most);
+        return rect.width() <= most && rect.height() <= textAt(widest).height();
+    };
+    QVERIFY2(width == 1 || !fits(width - 1), "it could be narrower");
+    QVERIFY(fits(width));
 }
 
 void TestMessages::enterIsNo_data()

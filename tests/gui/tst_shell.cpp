@@ -48,6 +48,8 @@ private slots:
     void draggingByWhatLiesOnTheWindow_data();
     void draggingByWhatLiesOnTheWindow();
     void trayMenu();
+    void trayPicture();
+    void trayMenuIsEmptiedAtTheEnd();
     void messageBoxDoesNotEndTheProgram();
     void trayActivation();
     void trayDoubleClicks_data();
@@ -219,6 +221,39 @@ void TestShell::trayMenu()
     QCOMPARE(entries.at(1)->text(), QStringLiteral("Exit"));
     entries.at(0)->trigger();
     QVERIFY(window.isVisible());
+}
+
+void TestShell::trayPicture()
+{
+    TestWindow world;
+    QImage picture(64, 64, QImage::Format_RGB32);
+    picture.fill(QColor(12, 134, 56));
+    QVERIFY(picture.save(QStringLiteral("branding/lumikey_system_tray.png")));
+    const MainWindow &window = world.construct();
+    const QIcon icon = window.findChild<QSystemTrayIcon *>()->icon();
+    QCOMPARE(icon.pixmap(64, 64).toImage().pixelColor(32, 32), QColor(12, 134, 56));
+}
+
+/// Desktops keep a menu of their own after the program's, and let go of an item only when it is
+/// taken out.
+void TestShell::trayMenuIsEmptiedAtTheEnd()
+{
+    class Removals : public QObject
+    {
+    public:
+        bool eventFilter(QObject * /*watched*/, QEvent *event) override
+        {
+            count += event->type() == QEvent::ActionRemoved ? 1 : 0;
+            return false;
+        }
+        int count = 0;
+    };
+    TestWindow world;
+    Removals removals;
+    QMenu *const menu = world.construct().findChild<QSystemTrayIcon *>()->contextMenu();
+    menu->installEventFilter(&removals);
+    world.window.reset();
+    QCOMPARE(removals.count, 2);
 }
 
 void TestShell::messageBoxDoesNotEndTheProgram()
