@@ -11,17 +11,17 @@ struct DpiBand
 {
     int highestDpi; ///< inclusive
     QSize windowMinimum = {};
-    int controlSize = 0; ///< edge of the title buttons, least height of buttons, lists and fields
+    int controlSize = {}; ///< edge of the title buttons, least height of buttons, lists and fields
     QSize fullPicture = {}; ///< least sizes of the preview pictures
     QSize stripePicture = {};
     QSize zonePicture = {};
-    int colourButton = 0; ///< least edge; deliberately above the form's greatest
-    int barHeight = 0;
-    int frameHeight = 0; ///< least; deliberately above the form's greatest
+    int colourButton = {}; ///< least edge; deliberately above the form's greatest
+    int barHeight = {};
+    int frameHeight = {}; ///< least; deliberately above the form's greatest
     /// Heights of the blanks on the zone pages and on those of the settings. They never shrink from
     /// band to band, and leave the least window room for fonts taller than most.
-    int pageSpacer = 0;
-    int settingsSpacer = 0;
+    int pageSpacer = {};
+    int settingsSpacer = {};
 
     /// The lowest bands change but a few of the widgets.
     constexpr bool changesEverything() const { return barHeight != 0; }
@@ -38,7 +38,7 @@ constexpr std::array dpiBands{
     DpiBand{192, {900, 960}, 42, {360, 145}, {360, 145}, {195, 145}, 50, 75, 140, 30, 2},
     DpiBand{216, {920, 1010}, 48, {360, 145}, {370, 155}, {205, 155}, 50, 75, 150, 30, 2},
     DpiBand{240, {980, 1050}, 48, {420, 155}, {380, 155}, {225, 155}, 50, 75, 160, 30, 3},
-    DpiBand{287, {}}, // a gap, kept on purpose: the form keeps its sizes
+    DpiBand{287}, // a gap, kept on purpose: the form keeps its sizes
     DpiBand{335, {1200, 1250}, 52, {440, 165}, {400, 165}, {245, 165}, 60, 75, 180, 45, 3},
     DpiBand{anyDpi, {1200, 1250}, 56, {440, 165}, {400, 165}, {245, 165}, 60, 75, 180, 45, 3},
 };

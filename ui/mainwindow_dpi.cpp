@@ -1,15 +1,14 @@
 #include "ui/mainwindow.h"
 
-#include "ui_mainwindow.h"
-
 #include "ui/colourhub.h"
+#include "ui/colourtargets.h"
 #include "ui/dpibands.h"
 #include "ui/windowplace.h"
 
 #include <QApplication>
 #include <QDesktopWidget>
+#include <QGridLayout>
 #include <QGuiApplication>
-#include <QLayout>
 #include <QScreen>
 
 #include <algorithm>
@@ -17,7 +16,6 @@
 namespace {
 
 using Widgets = std::initializer_list<QWidget *>;
-using Spacers = std::initializer_list<QSpacerItem *>;
 
 void setMinimums(const Widgets &widgets, const QSize &size)
 {
@@ -34,11 +32,32 @@ void setMinimumHeights(const Widgets &widgets, int height)
     }
 }
 
-void setHeights(const Spacers &spacers, int height)
+/// Of the blanks between the rows of a page.
+void setBlanks(QGridLayout &page, int height)
 {
-    for (QSpacerItem *const spacer : spacers) {
-        spacer->changeSize(1, height, QSizePolicy::Minimum, QSizePolicy::Minimum);
+    for (int i = 0; i < page.count(); ++i) {
+        if (QSpacerItem *const blank = page.itemAt(i)->spacerItem()) {
+            blank->changeSize(1, height, QSizePolicy::Minimum, QSizePolicy::Minimum);
+        }
     }
+    page.update(); // a changed spacer does not tell its layout
+}
+
+/// The page that shows a picture and, under it, what opens something for it.
+void enlargeZonePage(QLabel &picture, QWidget &opener, const DpiBand &band)
+{
+    auto &page = *qobject_cast<QGridLayout *>(picture.parentWidget()->layout());
+    const auto setRowMinimum = [&page](QWidget &widget, int height) {
+        int row{};
+        int others{};
+        page.getItemPosition(page.indexOf(&widget), &row, &others, &others, &others);
+        page.setRowMinimumHeight(row, height);
+    };
+    // Of one height on every page and with an effect chosen, so that nothing jumps. No band has a
+    // higher picture than that of the stripe.
+    setRowMinimum(picture, band.stripePicture.height());
+    setRowMinimum(opener, opener.minimumHeight());
+    setBlanks(page, band.pageSpacer);
 }
 
 void fixSize(QWidget &button, int edge)
@@ -47,7 +66,6 @@ void fixSize(QWidget &button, int edge)
     button.setMinimumHeight(edge);
     button.setMaximumWidth(edge);
     button.setMaximumHeight(edge);
-    button.resize(edge, edge);
 }
 
 } // namespace
@@ -71,9 +89,8 @@ void MainWindow::alignColumns()
     ui->horizontalLayout->setAlignment(ui->verticalLayout_4, Qt::AlignTop);
     const int underSquare = ui->hSelector->minimumHeight() - ui->svSelector->minimumHeight()
                             - ui->label_5->sizeHint().height();
-    const int gaps = std::min(2 * ui->verticalLayout_4->spacing(),
-                              underSquare - ui->colorSample->minimumHeight());
-    ui->verticalLayout_4->setSpacing(std::max(gaps / 2, 0));
+    const int gap = (underSquare - ui->colorSample->minimumHeight()) / 2;
+    ui->verticalLayout_4->setSpacing(std::clamp(gap, 0, ui->verticalLayout_4->spacing()));
     ui->colorSample->setFixedHeight(underSquare - 2 * ui->verticalLayout_4->spacing());
 }
 
@@ -115,53 +132,29 @@ void MainWindow::enlargeForBand(const DpiBand &band)
     setMinimumHeights({ui->comboBox_BasicColors, ui->leRGB, ui->leHex, ui->bHex, ui->bPasteHex,
                        ui->pushButton_2, ui->pushButton},
                       band.controlSize);
-    setMinimums({ui->keyboard_full, ui->stripe_led_2}, band.fullPicture);
+    setMinimums({ui->keyboard_full}, band.fullPicture);
+    setMinimums({ui->stripe_led_2}, band.fullPicture);
     setMinimums({ui->stripe_led}, band.stripePicture);
     setMinimums({ui->keyboard_left, ui->keyboard_center, ui->keyboard_right}, band.zonePicture);
     if (band.colourButton != 0) {
-        setMinimums({ui->colorpick1, ui->colorpick2, ui->colorpick3, ui->colorpick4, ui->colorpick5,
-                     ui->colorpick5_3},
-                    {band.colourButton, band.colourButton});
         const int hub = hubEdge(band.colourButton);
-        for (QPushButton *const wheel :
-             {ui->colorpick1, ui->colorpick2, ui->colorpick3, ui->colorpick4, ui->colorpick5}) {
-            wheel->setIconSize({hub, hub});
+        for (const ColourTargetRow &row : colourTargets) {
+            QPushButton &wheel = *(*ui.*row.opener);
+            setMinimums({&wheel}, {band.colourButton, band.colourButton});
+            wheel.setIconSize({hub, hub});
         }
+        setMinimums({ui->colorpick5_3}, {band.colourButton, band.colourButton});
     }
     ui->frame_2->setMinimumHeight(band.barHeight);
     ui->frame_2->setMaximumHeight(band.barHeight);
     ui->frame->setMinimumHeight(band.frameHeight);
 
-    // Of one height on every page and with an effect chosen, so that nothing jumps.
-    const int pictures = std::max(
-        {band.fullPicture.height(), band.stripePicture.height(), band.zonePicture.height()});
-    struct Page
-    {
-        QGridLayout *layout;
-        int pictureRow;
-        int buttonRow;
-    };
-    for (const Page &page : {Page{ui->gridLayout_13, 1, 4}, Page{ui->gridLayout_3, 1, 3},
-                             Page{ui->gridLayout_6, 1, 3}, Page{ui->gridLayout_12, 1, 3},
-                             Page{ui->gridLayout_14, 1, 3}, Page{ui->gridLayout_11, 2, 4}}) {
-        page.layout->setRowMinimumHeight(page.pictureRow, pictures);
-        page.layout->setRowMinimumHeight(page.buttonRow, ui->colorpick4->minimumHeight());
+    for (const ColourTargetRow &row : colourTargets) {
+        enlargeZonePage(*(*ui.*row.preview), *(*ui.*row.opener), band);
     }
-
-    setHeights({ui->verticalSpacer_1, ui->verticalSpacer_2, ui->verticalSpacer_3,
-                ui->verticalSpacer_4, ui->verticalSpacer_5, ui->verticalSpacer_6,
-                ui->verticalSpacer_7, ui->verticalSpacer_8, ui->verticalSpacer_9,
-                ui->verticalSpacer_10, ui->verticalSpacer_12, ui->verticalSpacer_13},
-               band.pageSpacer);
+    enlargeZonePage(*ui->stripe_led_2, *ui->colorpick5_3, band);
     // No other page has a blank above its picture.
-    setHeights({ui->verticalSpacer_11}, 0);
-    setHeights({ui->verticalSpacer_17, ui->verticalSpacer_18, ui->verticalSpacer_19,
-                ui->verticalSpacer_20, ui->verticalSpacer_21},
-               band.settingsSpacer);
-    // A changed spacer does not tell its layout.
-    for (QLayout *const layout : std::initializer_list<QLayout *>{
-             ui->gridLayout_13, ui->gridLayout_3, ui->gridLayout_6, ui->gridLayout_12,
-             ui->gridLayout_14, ui->gridLayout_11, ui->gridLayout_7, ui->gridLayout_8}) {
-        layout->update();
-    }
+    ui->verticalSpacer_11->changeSize(1, 0, QSizePolicy::Minimum, QSizePolicy::Minimum);
+    setBlanks(*ui->gridLayout_7, band.settingsSpacer);
+    setBlanks(*ui->gridLayout_8, band.settingsSpacer);
 }
