@@ -169,8 +169,7 @@ private:
         constexpr int alpha = 30;
         const QPixmap decoded = QPixmap::fromImage(QImage(pictureFile(picture)));
         const ColourComponents part = scaledComponents(colour, brightness);
-        labels.at(static_cast<int>(picture) - 1)
-            ->setPixmap(tinted(decoded, tintColour(part, alpha)));
+        labels.at(static_cast<int>(picture))->setPixmap(tinted(decoded, tintColour(part, alpha)));
     }
 
     TestWindow world;

@@ -15,7 +15,6 @@ enum class ColourTarget { Left = 1, Centre = 2, Right = 3, Keyboard = 4, Stripe 
 /// Where a target is met: on the wire, in the settings, in the state and in the window.
 struct ColourTargetRow
 {
-    ColourTarget target;
     std::optional<Zone> zone; ///< whose word it sets; none: those of the keyboard's three zones
     const Key<QString> *key;  ///< under which its colour text is stored
     QString LightingState::*colour;
@@ -25,24 +24,24 @@ struct ColourTargetRow
     QLabel *Ui_MainWindow::*preview; ///< shows the picture
 };
 
+/// In the order of ColourTarget.
 inline constexpr std::array<ColourTargetRow, 5> colourTargets{{
-    {ColourTarget::Left, Zone::Left, &SettingKeys::leftColour, &LightingState::leftZoneColor,
+    {Zone::Left, &SettingKeys::leftColour, &LightingState::leftZoneColor,
      &Ui_MainWindow::colorpick1,
      QT_TRANSLATE_NOOP("MainWindow", "Select Left Keyboard Zone Color:"), KeyboardPicture::Left,
      &Ui_MainWindow::keyboard_left},
-    {ColourTarget::Centre, Zone::Centre, &SettingKeys::centreColour,
-     &LightingState::centerZoneColor, &Ui_MainWindow::colorpick2,
+    {Zone::Centre, &SettingKeys::centreColour, &LightingState::centerZoneColor,
+     &Ui_MainWindow::colorpick2,
      QT_TRANSLATE_NOOP("MainWindow", "Select Center Keyboard Zone Color:"), KeyboardPicture::Centre,
      &Ui_MainWindow::keyboard_center},
-    {ColourTarget::Right, Zone::Right, &SettingKeys::rightColour, &LightingState::rightZoneColor,
+    {Zone::Right, &SettingKeys::rightColour, &LightingState::rightZoneColor,
      &Ui_MainWindow::colorpick3,
      QT_TRANSLATE_NOOP("MainWindow", "Select Right Keyboard Zone Color:"), KeyboardPicture::Right,
      &Ui_MainWindow::keyboard_right},
-    {ColourTarget::Keyboard, std::nullopt, &SettingKeys::singleColour,
-     &LightingState::singleZoneColor, &Ui_MainWindow::colorpick4,
-     QT_TRANSLATE_NOOP("MainWindow", "Select Keyboard Color:"), KeyboardPicture::Full,
-     &Ui_MainWindow::keyboard_full},
-    {ColourTarget::Stripe, Zone::Stripe, &SettingKeys::stripeLid, &LightingState::stripeLidColor,
+    {std::nullopt, &SettingKeys::singleColour, &LightingState::singleZoneColor,
+     &Ui_MainWindow::colorpick4, QT_TRANSLATE_NOOP("MainWindow", "Select Keyboard Color:"),
+     KeyboardPicture::Full, &Ui_MainWindow::keyboard_full},
+    {Zone::Stripe, &SettingKeys::stripeLid, &LightingState::stripeLidColor,
      &Ui_MainWindow::colorpick5, QT_TRANSLATE_NOOP("MainWindow", "Select Stripe / LCD Lid Color:"),
      KeyboardPicture::Stripe, &Ui_MainWindow::stripe_led},
 }};

@@ -21,8 +21,7 @@ QString pictureFile(KeyboardPicture picture)
 
 const QPixmap &KeyboardPictures::of(KeyboardPicture picture)
 {
-    QPixmap &kept =
-        decoded.at(static_cast<size_t>(picture) - static_cast<size_t>(KeyboardPicture::Left));
+    QPixmap &kept = decoded[picture];
     if (kept.isNull()) {
         kept = QPixmap(pictureFile(picture));
     }
@@ -44,7 +43,7 @@ QColor tintColour(const ColourComponents &components, int alpha)
 QPixmap tinted(const QPixmap &picture, const QColor &colour)
 {
     if (picture.isNull()) {
-        return picture;
+        return {};
     }
     // A vendor's picture may come without an alpha channel, which the tint needs.
     QPixmap copy(picture.size());

@@ -6,12 +6,12 @@
 #include <QPixmap>
 #include <QString>
 
-#include <array>
+#include <map>
 
 /// The preview pictures of the window.
-enum class KeyboardPicture { Left = 1, Centre = 2, Right = 3, Full = 4, Stripe = 5 };
+enum class KeyboardPicture { Left, Centre, Right, Full, Stripe };
 
-/// File of a picture, relative to the current directory; empty for an unknown number.
+/// File of a picture, relative to the current directory.
 QString pictureFile(KeyboardPicture picture);
 
 /// The pictures as their files have them. Each is decoded once, when first asked for, and kept:
@@ -24,7 +24,7 @@ public:
     const QPixmap &of(KeyboardPicture picture);
 
 private:
-    std::array<QPixmap, 5> decoded; ///< in the order of KeyboardPicture
+    std::map<KeyboardPicture, QPixmap> decoded;
 };
 
 /// The colour that a picture is filled with. Components outside 0..255, which a stored text like
