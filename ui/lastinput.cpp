@@ -12,12 +12,12 @@ void LastInput::watch(QWidget &widget)
     widget.installEventFilter(this);
 }
 
-bool LastInput::eventFilter(QObject *watched, QEvent *event)
+bool LastInput::eventFilter(QObject * /*watched*/, QEvent *event)
 {
     if (event->type() == QEvent::MouseButtonPress) {
         mouse = true;
     } else if (event->type() == QEvent::KeyPress) {
         mouse = false;
     }
-    return QObject::eventFilter(watched, event);
+    return false;
 }

@@ -95,7 +95,8 @@ public slots:
     void suspendresumeaction();
     /// Gives the agent that waits longest the line of this moment; nothing where none waits.
     void sendFortune();
-    /// @param a, b, c red, green, blue; @param d alpha; @param img number of a KeyboardPicture
+    /// @param a, b, c red, green, blue; @param d alpha; @param img number of the ColourTarget that
+    /// the picture shows
     void setKeyboardImageColor(int a, int b, int c, int d, int img);
 
     // mainwindow_dimming.cpp: the slider is moved, by idling and by the companion application
@@ -219,9 +220,6 @@ private:
     void enableWhatPerKeyModeReplaces(bool enabled);
     quint32 now() const;
 
-    /// No slider has this value.
-    static constexpr qint32 nothingApplied = 99999;
-
     std::unique_ptr<Ui::MainWindow> ui;
     AppSettings settings;
     Platform &platform;
@@ -238,8 +236,8 @@ private:
     bool loadingSettings = true;
     DimState dim;
     BrightnessStore brightnessStore;
-    /// Slider value that brightnessapply() last acted on.
-    qint32 lastAppliedBrightness = nothingApplied;
+    /// Slider value that brightnessapply() last acted on; nothing where it is to act on any.
+    std::optional<int> lastAppliedBrightness;
 
     /// The check of the version.
     struct VersionCheck

@@ -38,11 +38,11 @@ void MainWindow::connectColourPicker()
     connect(this, SIGNAL(mouseMovedOnWindow()), ui->colorSample, SLOT(mouseMovedOnWindow()));
     connect(this, SIGNAL(mouseReleasedOnWindow()), ui->colorSample, SLOT(mouseReleasedOnWindow()));
 
-    for (QWidget *const button : std::initializer_list<QWidget *>{
-             ui->colorpick1, ui->colorpick2, ui->colorpick3, ui->colorpick4, ui->colorpick5,
-             ui->pushButton, ui->pushButton_2}) {
-        picker.input.watch(*button);
+    for (const ColourTargetRow &row : colourTargets) {
+        picker.input.watch(*(*ui.*row.opener));
     }
+    picker.input.watch(*ui->pushButton);
+    picker.input.watch(*ui->pushButton_2);
     // A number that is missing keeps its place only for who is about to type it. A field that is
     // left because the window goes finds no window any more, so it is asked by itself.
     connect(ui->leRGB, &QLineEdit::editingFinished, ui->leRGB, [field = ui->leRGB] {

@@ -82,7 +82,7 @@ void MainWindow::timerDone()
         lighting.leftWord = wordText(DeviceWords::lightingOff);
         // The words show no brightness now: a wake before the next brightnessapply() may bring back
         // the very value that it applied last.
-        lastAppliedBrightness = nothingApplied;
+        lastAppliedBrightness.reset();
     }
 }
 

@@ -77,7 +77,7 @@ void MainWindow::tintPreview(const ColourTargetRow &row, const QString &colour)
 
 void MainWindow::showUncoloured(const ColourTargetRow &row)
 {
-    showPreview(row, QColor(0, 0, 0, 0));
+    showPreview(row, Qt::transparent);
     showInHub(*(*ui.*row.opener), QString());
 }
 
@@ -108,7 +108,6 @@ void MainWindow::sendFortune()
 
 void MainWindow::setKeyboardImageColor(int a, int b, int c, int d, int img)
 {
-    // The pictures have the numbers of the targets that they show.
     if (const auto target = colourTarget(img)) {
         showPreview(rowOf(*target), tintColour({a, b, c}, d));
     }
@@ -128,7 +127,7 @@ void MainWindow::applyAllColours()
 void MainWindow::brightnessapply()
 {
     const int brightness = ui->horizontalSlider->value();
-    if (brightness == lastAppliedBrightness) {
+    if (lastAppliedBrightness == brightness) {
         return;
     }
     if (ui->backlight_on->isChecked() && !loadingSettings) {
@@ -204,9 +203,7 @@ void MainWindow::showEffect(bool chosen)
     // From the rows of the pictures down to the ends, so that they are in the middle: what is above
     // those rows the sheet takes off below. Not while they are hidden: they would hold rows open.
     const int rows = chosen ? -1 : 1;
-    ui->gridLayout_13->removeWidget(ui->label_14);
     ui->gridLayout_13->addWidget(ui->label_14, 1, 0, rows, 1);
-    ui->gridLayout_6->removeWidget(ui->label_16);
     ui->gridLayout_6->addWidget(ui->label_16, 1, 1, rows, 1);
     ui->label_14->setVisible(chosen);
     ui->label_16->setVisible(chosen);

@@ -92,7 +92,7 @@ void MainWindow::delayedApply()
     dim.userBrightness = ui->horizontalSlider->value();
     // brightnessapply() may have run while loading: it noted the brightness without applying it,
     // and would find nothing new from now on.
-    lastAppliedBrightness = nothingApplied;
+    lastAppliedBrightness.reset();
     dim.active = false; // the slider is the user's again, also where an effect keeps polls off
     showBrightness(Messages::brightness);
     lighting.stripeLidColor = settings.read(SettingKeys::stripeLid);
@@ -145,7 +145,6 @@ void MainWindow::loadZoneColours()
         lighting.*rowOf(zone).colour = settings.read(*rowOf(zone).key);
         setColour(zone, lighting.*rowOf(zone).colour);
     }
-    showUncoloured(rowOf(ColourTarget::Keyboard));
     ui->tabWidget_2->setCurrentIndex(ZonesPage);
 }
 

@@ -80,9 +80,9 @@ void MainWindow::SetStyle()
     }
 }
 
-bool MainWindow::eventFilter(QObject *watched, QEvent *event)
+bool MainWindow::eventFilter(QObject * /*watched*/, QEvent * /*event*/)
 {
-    return QMainWindow::eventFilter(watched, event);
+    return false;
 }
 
 bool MainWindow::event(QEvent *event)
@@ -97,15 +97,11 @@ bool MainWindow::event(QEvent *event)
 
 void MainWindow::childEvent(QChildEvent *event)
 {
-    QMainWindow::childEvent(event);
-    if (!event->polished()) { // of a child that leaves, the part that is a widget may be gone
-        return;
-    }
-    auto *const child = qobject_cast<QWidget *>(event->child());
-    if (child && child->isWindow()) {
+    // Only widgets are polished; of a child that leaves, that part may be gone.
+    if (event->polished()) {
         // Qt quits when the last visible window closes. While this one is in the tray, a message
         // box would be that last one.
-        child->setAttribute(Qt::WA_QuitOnClose, false);
+        qobject_cast<QWidget *>(event->child())->setAttribute(Qt::WA_QuitOnClose, false);
     }
 }
 
@@ -117,7 +113,6 @@ void MainWindow::showEvent(QShowEvent *event)
         }
         comeBackToAScreen();
     }
-    QMainWindow::showEvent(event);
 }
 
 void MainWindow::comeBackToAScreen()
@@ -142,7 +137,6 @@ void MainWindow::closeEvent(QCloseEvent *event)
         hide();
         return;
     }
-    QMainWindow::closeEvent(event);
     shell.closed = true;
     emit closed();
     const auto boxes = findChildren<QMessageBox *>();
