@@ -1,25 +1,9 @@
 #include "dimworld.h"
 
 #include "lighting/idletimes.h"
+#include "tests/support/singleshots.h"
 
-#include <QAbstractEventDispatcher>
-
-namespace {
-
-/// The times, in milliseconds, of everything that waits to happen once.
-QVector<int> pendingSingleShots()
-{
-    QVector<int> times;
-    auto *const dispatcher = QAbstractEventDispatcher::instance();
-    for (QObject *const child : dispatcher->children()) {
-        for (const auto &timer : dispatcher->registeredTimers(child)) {
-            times += timer.interval;
-        }
-    }
-    return times;
-}
-
-} // namespace
+#include <utility>
 
 class TestDimPolls : public QObject
 {
@@ -31,9 +15,15 @@ private slots:
     void rampAndWords();
     void wakeIsSentTwice();
     void pollKeepsAWakeThatWaits();
+    void idleTimeOfNoRow_data();
+    void idleTimeOfNoRow();
+    void startsAfterTheSettings_data();
     void startsAfterTheSettings();
     void loadingTheSettingsIsActivity();
+    void resumeIsActivity();
+    void applyingIsActivityFromItsBeginning();
     void idleTimeCountsFromTheEndOfApplying();
+    void settingsTakeTheDimTextAway();
     void everyUserBrightness_data();
     void everyUserBrightness();
     void wakeBeforeTheWordsFollowed_data();
@@ -123,18 +113,47 @@ void TestDimPolls::pollKeepsAWakeThatWaits()
     QVERIFY(world.wakePending());
 }
 
+void TestDimPolls::idleTimeOfNoRow_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::newRow("none chosen") << -1;
+    QTest::newRow("one too many") << static_cast<int>(idleTimesMs.size());
+}
+
+/// The time that was chosen before goes on.
+void TestDimPolls::idleTimeOfNoRow()
+{
+    QFETCH(int, index);
+    DimWorld world;
+    world.startDimming();
+    auto *const list = world.get<QComboBox>("comboDimValue");
+    list->addItem(QStringLiteral("some day"));
+    list->setCurrentIndex(2); // half a minute
+    list->setCurrentIndex(index);
+    QCOMPARE(list->currentIndex(), index);
+    world.clock += 29'999;
+    world.window->timerDone();
+    QCOMPARE(world.shown(), 100);
+    world.clock += 1;
+    world.window->timerDone();
+    QCOMPARE(world.shown(), 98);
+}
+
+void TestDimPolls::startsAfterTheSettings_data()
+{
+    QTest::addColumn<QByteArray>("box");
+    QTest::addColumn<QVector<int>>("delays");
+    QTest::newRow("checked") << QByteArray("AutoDim=true\n") << QVector<int>{5000};
+    QTest::newRow("not checked") << QByteArray("AutoDim=false\n") << QVector<int>();
+}
+
 void TestDimPolls::startsAfterTheSettings()
 {
+    QFETCH(QByteArray, box);
     TestWindow world;
-    world.writeSettings("backlight_on=true\nbrightlevel=100\nAutoDim=true\n");
+    world.writeSettings("backlight_on=true\nbrightlevel=100\n" + box);
     world.construct();
-    const QVector<int> before = pendingSingleShots();
-    world.window->delayedApply();
-    QVector<int> added = pendingSingleShots();
-    for (const int time : before) {
-        added.removeOne(time);
-    }
-    QCOMPARE(added, QVector<int>{5000});
+    QTEST(SingleShots::leftBy([&world] { world.window->delayedApply(); }), "delays");
 }
 
 void TestDimPolls::loadingTheSettingsIsActivity()
@@ -151,6 +170,34 @@ void TestDimPolls::loadingTheSettingsIsActivity()
     QCOMPARE(world.shown(), 98);
 }
 
+void TestDimPolls::resumeIsActivity()
+{
+    DimWorld world;
+    world.startDimming();
+    world.clock += 4800;
+    world.window->suspendresumeaction();
+    world.clock += 4800;
+    world.window->timerDone();
+    QCOMPARE(world.shown(), 100);
+}
+
+void TestDimPolls::applyingIsActivityFromItsBeginning()
+{
+    DimWorld world;
+    world.startDimming();
+    world.writeSettings("backlight_on=true\nbrightlevel=50\nAutoDim=true\n");
+    bool polled = false;
+    QObject::connect(world.get<QSlider>("horizontalSlider"), &QSlider::valueChanged, [&] {
+        if (!std::exchange(polled, true)) {
+            world.window->timerDone();
+        }
+    });
+    world.clock += 3'600'000;
+    world.window->delayedApply();
+    QVERIFY(polled);
+    QCOMPARE(world.shown(), 50);
+}
+
 void TestDimPolls::idleTimeCountsFromTheEndOfApplying()
 {
     DimWorld world;
@@ -163,6 +210,15 @@ void TestDimPolls::idleTimeCountsFromTheEndOfApplying()
     world.clock += 2500;
     world.window->timerDone();
     QCOMPARE(world.shown(), 50);
+}
+
+void TestDimPolls::settingsTakeTheDimTextAway()
+{
+    DimWorld world;
+    world.startDimming();
+    QCOMPARE(world.label(), QStringLiteral("Brightness Level: 100% (Auto dim mode)"));
+    world.window->delayedApply();
+    QCOMPARE(world.label(), QStringLiteral("Brightness Level: 100%"));
 }
 
 void TestDimPolls::everyUserBrightness_data()

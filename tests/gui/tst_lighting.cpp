@@ -31,6 +31,7 @@ private slots:
     void unknownKindsChangeNothing();
     void sliderIsStoredAndAppliedLater();
     void sliderWhileOff();
+    void sliderWhileLoadingAgain();
     void autoDimBoxShowsItsState();
     void brightnessTimerRuns();
     void off();
@@ -43,7 +44,6 @@ private slots:
     void backToNoEffect();
     void unknownEffectIsOnlyStored();
     void effectWhileLoading();
-    void stripeOption();
     void resume_data();
     void resume();
 
@@ -201,6 +201,19 @@ void TestLighting::sliderWhileOff()
     QCOMPARE(words(*world.window), QStringLiteral("f0004c00 f100004c f24c0000 f3000000"));
 }
 
+void TestLighting::sliderWhileLoadingAgain()
+{
+    TestWindow world;
+    startWithColours(world);
+    const QString before = words(*world.window);
+    world.window->LoadSettings();
+    const QString loading = words(*world.window);
+    QVERIFY(loading != before);
+    world.get<QSlider>("horizontalSlider")->setValue(50);
+    world.window->brightnessapply();
+    QCOMPARE(words(*world.window), loading);
+}
+
 void TestLighting::autoDimBoxShowsItsState()
 {
     TestWindow world;
@@ -246,7 +259,10 @@ void TestLighting::onAgain()
     TestWindow world;
     startWithColours(world);
     world.window->brightnessapply();
+    world.readLine(); // the two wake lines of the start
+    world.readLine();
     world.get<QRadioButton>("backlight_off")->click();
+    QVERIFY(!world.window->wakeSequence().wakePending);
     world.window->show();
     auto *const button = world.get<QRadioButton>("backlight_on");
     QTest::mouseClick(button, Qt::LeftButton, {}, {8, button->height() / 2});
@@ -273,6 +289,13 @@ void TestLighting::clicksThatLeaveTheButtonUncheckedStoreNothing()
     QCOMPARE(world.stored(SettingKeys::backlightOff), QStringLiteral("(none)"));
     QVERIFY(!world.get<QWidget>("tabWidget_2")->isEnabled());
     world.window->on_backlight_on_clicked();
+    QVERIFY(world.get<QWidget>("tabWidget_2")->isEnabled());
+
+    world.get<QRadioButton>("backlight_off")->click();
+    const QString black = words(*world.window);
+    world.window->on_backlight_on_clicked(); // backlight_on is not checked
+    QCOMPARE(words(*world.window), black);
+    QCOMPARE(world.stored(SettingKeys::backlightOn), QStringLiteral("false"));
     QVERIFY(world.get<QWidget>("tabWidget_2")->isEnabled());
 }
 
@@ -390,24 +413,6 @@ void TestLighting::effectWhileLoading()
     QCOMPARE(window.lightingState().effectWord, QStringLiteral("0"));
     QCOMPARE(world.stored(SettingKeys::effects), QStringLiteral("5"));
     QVERIFY(!world.get<QWidget>("label_13")->isHidden());
-}
-
-void TestLighting::stripeOption()
-{
-    TestWindow world;
-    startWithColours(world);
-    auto *const tabs = world.get<QTabWidget>("tabWidget_2");
-    auto *const box = world.get<QAbstractButton>("StartHidden_2");
-    QVERIFY(!tabs->isTabEnabled(2));
-    const QString before = words(*world.window);
-    tabs->setTabVisible(2, false);
-    box->click();
-    QVERIFY(tabs->isTabEnabled(2));
-    QVERIFY(tabs->isTabVisible(2));
-    box->click();
-    QVERIFY(!tabs->isTabEnabled(2));
-    QVERIFY(tabs->isTabVisible(2)); // disabled, not hidden again
-    QCOMPARE(words(*world.window), before);
 }
 
 void TestLighting::resume_data()

@@ -1,5 +1,6 @@
 #include "tests/support/effectwidgets.h"
 #include "tests/support/lightinglines.h"
+#include "tests/support/singleshots.h"
 #include "tests/support/testwindow.h"
 
 #include <QAbstractEventDispatcher>
@@ -49,6 +50,7 @@ private slots:
     void systemsNotice();
     void nativeMessage();
     void otherNativeMessages();
+    void loadsASecondLater();
     void settingsComeBack_data();
     void settingsComeBack();
     void effectComesBack_data();
@@ -102,6 +104,12 @@ void TestResumedWindow::otherNativeMessages()
     QVERIFY(!sendNative("suspended"));
     QVERIFY(world->platform.sleeps.isEmpty());
     QCOMPARE(words(window), before);
+}
+
+void TestResumedWindow::loadsASecondLater()
+{
+    MainWindow &window = world->start();
+    QCOMPARE(SingleShots::leftBy([&window] { window.suspendresumeaction(); }), QVector<int>{1000});
 }
 
 void TestResumedWindow::settingsComeBack_data()

@@ -1,16 +1,13 @@
 #include "lighting/devicewords.h"
-#include "tests/support/serviceclient.h"
 #include "tests/support/testwindow.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QScreen>
-#include <QSignalSpy>
 #include <QSlider>
 #include <QTabWidget>
 #include <QTest>
@@ -40,8 +37,6 @@ class TestSettings : public QObject
 
 private slots:
     void firstStart();
-    void nothingIsAppliedBeforeTheDelay();
-    void applicationFollowsASecondLater();
     void checkBoxesLoad_data();
     void checkBoxesLoad();
     void checkBoxesStore_data();
@@ -52,19 +47,14 @@ private slots:
     void brightnessLoads();
     void listsLoad_data();
     void listsLoad();
-    void effectIsAppliedAfterLoading();
     void zonesLoad();
     void singleColourLoads();
     void singleColourSurvivesABrightnessChange();
-    void brightnessOfALoadingTickIsAppliedLater();
     void stripeLoads();
-    void wordsWhileLoading();
     void loadingStoresNoChoice();
     void perKeyModeNeverApplies();
     void companionTimerStartsWithTheApplication();
     void dimDelayIsStored();
-    void applyingRaisesAWake_data();
-    void applyingRaisesAWake();
     void loadedBrightnessIsTheUsers();
     void loadingAgainStoresNoClick();
     void autoDimStartsFiveSecondsLater();
@@ -93,30 +83,6 @@ void TestSettings::firstStart()
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     QCOMPARE(window.size(), QSize(630, 630));
     QVERIFY((window.geometry().center() - screen.center()).manhattanLength() <= 2);
-}
-
-void TestSettings::nothingIsAppliedBeforeTheDelay()
-{
-    TestWindow world;
-    world.writeSettings("backlight_on=true\nbrightlevel=40\nZone1Color=255 0 0\n");
-    MainWindow &window = world.construct();
-    QCOMPARE(world.get<QSlider>("horizontalSlider")->value(), 100);
-    QCOMPARE(window.lightingState().leftWord, QStringLiteral("3758616583"));
-}
-
-void TestSettings::applicationFollowsASecondLater()
-{
-    TestWindow world;
-    world.writeSettings("brightlevel=40\n");
-    QElapsedTimer sinceBefore;
-    sinceBefore.start();
-    world.construct();
-    auto *const slider = world.get<QSlider>("horizontalSlider");
-    QCOMPARE(slider->value(), 100);
-    const QSignalSpy moves(slider, SIGNAL(valueChanged(int)));
-    QTRY_COMPARE(moves.size(), 1);
-    QVERIFY(sinceBefore.elapsed() >= 1000);
-    QCOMPARE(slider->value(), 40);
 }
 
 void TestSettings::checkBoxesLoad_data()
@@ -257,17 +223,6 @@ void TestSettings::listsLoad()
     QTEST(world.get<QComboBox>(qPrintable(list))->currentIndex(), "index");
 }
 
-void TestSettings::effectIsAppliedAfterLoading()
-{
-    TestWindow world;
-    world.writeSettings("backlight_on=true\nbrightlevel=100\neffects=1\nZone1Color=255 0 0\n");
-    MainWindow &window = world.start();
-    QCOMPARE(window.lightingState().effectWord, QStringLiteral("268607488"));
-    QCOMPARE(window.lightingState().leftWord, QStringLiteral("4026597120"));
-    QCOMPARE(world.stored(SettingKeys::effects), QStringLiteral("1"));
-    QVERIFY(!world.get<QSlider>("horizontalSlider")->isEnabled());
-}
-
 void TestSettings::zonesLoad()
 {
     TestWindow world;
@@ -313,19 +268,6 @@ void TestSettings::singleColourSurvivesABrightnessChange()
     QCOMPARE(world.stored(SettingKeys::singleColourLast), QStringLiteral("true"));
 }
 
-void TestSettings::brightnessOfALoadingTickIsAppliedLater()
-{
-    TestWindow world;
-    world.writeSettings("backlight_on=true\nbrightlevel=50\nZone1Color=200 100 50\n");
-    MainWindow &window = world.construct();
-    window.brightnessapply(); // at 100, as the form has it
-    window.delayedApply();
-    QCOMPARE(window.lightingState().leftWord, wordText(0xF0196432));
-    world.get<QSlider>("horizontalSlider")->setValue(100);
-    window.brightnessapply();
-    QCOMPARE(window.lightingState().leftWord, wordText(0xF032C864));
-}
-
 void TestSettings::stripeLoads()
 {
     TestWindow world;
@@ -335,15 +277,6 @@ void TestSettings::stripeLoads()
     QCOMPARE(window.lightingState().stripeLidColor, QStringLiteral("1 2 3"));
 }
 
-void TestSettings::wordsWhileLoading()
-{
-    TestWindow world;
-    const LightingState &state = world.construct().lightingState();
-    QCOMPARE(state.stripeWord, QStringLiteral("4076863488"));
-    QCOMPARE(state.centreWord, QStringLiteral("4093640951"));
-    QCOMPARE(state.leftWord, QStringLiteral("3758616583"));
-}
-
 void TestSettings::loadingStoresNoChoice()
 {
     TestWindow world;
@@ -351,6 +284,7 @@ void TestSettings::loadingStoresNoChoice()
     world.start();
     QCOMPARE(world.stored(SettingKeys::singleColourLast), QStringLiteral("(none)"));
     QCOMPARE(world.stored(SettingKeys::backlightOff), QStringLiteral("(none)"));
+    QCOMPARE(world.stored(SettingKeys::effects), QStringLiteral("(none)"));
 }
 
 void TestSettings::perKeyModeNeverApplies()
@@ -384,26 +318,6 @@ void TestSettings::dimDelayIsStored()
         QTest::keyClick(list, Qt::Key_Down);
         QCOMPARE(world.stored(SettingKeys::dimTimer), QString::number(index));
     }
-}
-
-void TestSettings::applyingRaisesAWake_data()
-{
-    QTest::addColumn<bool>("on");
-    QTest::newRow("on") << true;
-    QTest::newRow("off") << false;
-}
-
-void TestSettings::applyingRaisesAWake()
-{
-    QFETCH(bool, on);
-    TestWindow world;
-    world.writeSettings(on ? "backlight_on=true\nbrightlevel=100\n" : "backlight_on=false\n");
-    MainWindow &window = world.construct();
-    world.readLine();
-    world.readLine();
-    QVERIFY(!window.wakeSequence().wakePending);
-    window.delayedApply();
-    QCOMPARE(window.wakeSequence().wakePending, on);
 }
 
 void TestSettings::loadedBrightnessIsTheUsers()
