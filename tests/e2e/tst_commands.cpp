@@ -118,9 +118,12 @@ void TestCommands::installationLoadsSettings()
     world.addInstallationCommands();
     MainWindow &window = world.start();
     world.writeSettings("minimize_close=true\nbacklight_on=true\n");
+    const QRect place(31, 47, 700, 660);
+    window.setGeometry(place);
     const BoxWatcher watcher(QMessageBox::Yes);
     window.installmof();
     QVERIFY(world.get<QCheckBox>("Check_CloseHides")->isChecked());
+    QCOMPARE(window.geometry(), place); // which none of the settings told
     // And the lighting a second later.
     QTRY_VERIFY(world.get<QAbstractButton>("backlight_on")->isChecked());
 }

@@ -7,13 +7,24 @@
 class RaiseWatcher : public QObject
 {
 public:
-    explicit RaiseWatcher(QWidget &window) { window.installEventFilter(this); }
+    explicit RaiseWatcher(QWidget &watchedWindow)
+        : window(watchedWindow)
+    {
+        window.installEventFilter(this);
+    }
 
     bool eventFilter(QObject * /*watched*/, QEvent *event) override
     {
-        count += event->type() == QEvent::ZOrderChange ? 1 : 0;
+        if (event->type() == QEvent::ZOrderChange) {
+            ++count;
+            wasVisible = window.isVisible();
+        }
         return false;
     }
 
     int count = 0;
+    bool wasVisible = false; ///< the last time
+
+private:
+    QWidget &window;
 };

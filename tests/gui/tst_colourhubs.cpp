@@ -2,6 +2,7 @@
 #include "ui/colourhub.h"
 
 #include <QPushButton>
+#include <QSlider>
 #include <QtTest>
 
 namespace {
@@ -29,6 +30,7 @@ private slots:
     void brightnessDoesNotDimIt();
     void darkWhileDisabled();
     void fillsTheHub();
+    void isADisc();
 
 private:
     /// What the wheels show in their middle, as "#rrggbb", or "hollow".
@@ -141,6 +143,11 @@ void TestColourHubs::brightnessDoesNotDimIt()
 {
     start("backlight_on=true\nbrightlevel=10\nZone1Color=255 85 0\n");
     QCOMPARE(hubs().first(), QStringLiteral("#ff5500"));
+    const auto &wheel = *world->get<QPushButton>("colorpick1");
+    const qint64 icon = wheel.icon().cacheKey();
+    world->get<QSlider>("horizontalSlider")->setValue(20);
+    world->window->brightnessapply();
+    QCOMPARE(wheel.icon().cacheKey(), icon); // not even painted anew
 }
 
 void TestColourHubs::darkWhileDisabled()
@@ -158,6 +165,31 @@ void TestColourHubs::fillsTheHub()
     const auto &wheel = *world->get<QPushButton>("colorpick1");
     QCOMPARE(wheel.iconSize(), QSize(hubEdge(40), hubEdge(40)));
     QCOMPARE(wheel.minimumWidth(), 40);
+}
+
+/// Of one colour up to its rim, which is smooth; as many pixels as a hub has in the largest wheel.
+void TestColourHubs::isADisc()
+{
+    constexpr std::array edges{QSize(40, 18), QSize(50, 22), QSize(60, 27)}; // of wheel and hub
+    for (const QSize &edge : edges) {
+        QCOMPARE(hubEdge(edge.width()), edge.height());
+    }
+    const QSize largest(27, 27);
+    const QIcon icon = hubIcon(QColor(255, 0, 0));
+    QCOMPARE(icon.actualSize(largest), largest);
+    const QImage disc = icon.pixmap({96, 96}).toImage();
+    int between = 0;
+    for (int y = 0; y < disc.height(); ++y) {
+        for (int x = 0; x < disc.width(); ++x) {
+            const QColor pixel = disc.pixelColor(x, y);
+            between += pixel.alpha() > 0 && pixel.alpha() < 255 ? 1 : 0;
+            QVERIFY(pixel.alpha() == 0 || (pixel.red() > 250 && pixel.green() == 0));
+        }
+    }
+    QVERIFY(between > 0);
+    QCOMPARE(disc.pixelColor(0, 0).alpha(), 0);
+    QCOMPARE(disc.pixelColor(disc.width() / 2, 1), QColor(255, 0, 0));
+    QCOMPARE(disc.pixelColor(1, disc.height() / 2), QColor(255, 0, 0));
 }
 
 QTEST_MAIN(TestColourHubs)

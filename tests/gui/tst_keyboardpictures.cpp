@@ -157,7 +157,13 @@ void TestKeyboardPictures::tintWithoutPicture()
 {
     TestWindow world;
     world.start();
+    static int messages;
+    messages = 0;
+    const QtMessageHandler before = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext &, const QString &) { ++messages; });
     world.window->setKeyboardImageColor(1, 2, 3, 30, 4);
+    qInstallMessageHandler(before);
+    QCOMPARE(messages, 0); // nothing is painted on nothing
     QVERIFY(world.get<QLabel>("keyboard_full")->pixmap(Qt::ReturnByValue).isNull());
 }
 
@@ -168,6 +174,11 @@ void TestKeyboardPictures::tintOfNoColour()
          {ColourComponents{256, 0, 0}, ColourComponents{0, -1, 0}, ColourComponents{0, 0, 999}}) {
         QCOMPARE(tintColour(bad, 30), QColor(Qt::black));
     }
+    for (const int bad : {-1, 256}) {
+        QCOMPARE(tintColour({1, 2, 3}, bad), QColor(Qt::black));
+    }
+    QCOMPARE(tintColour({0, 255, 0}, 0), QColor(0, 255, 0, 0));
+    QCOMPARE(tintColour({255, 0, 255}, 255), QColor(255, 0, 255));
 }
 
 QTEST_MAIN(TestKeyboardPictures)

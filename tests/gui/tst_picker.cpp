@@ -322,20 +322,22 @@ void TestPicker::windowGoesWhileTyping()
 void TestPicker::zoneWithoutAColourIsBlack()
 {
     TestWindow world;
-    open(world, "colorpick1", "Zone1Color=255 0 0\n");
+    open(world, "colorpick1", "Zone1Color=0 255 0\n");
     world.get<QAbstractButton>("colorpick2")->click();
     QCOMPARE(text(world, "leRGB"), QString());
     QCOMPARE(text(world, "leHex"), QString());
     QCOMPARE(world.get<ColorSample>("colorSample")->color().rgb(), QColor(Qt::black).rgb());
     QCOMPARE(world.get<SVSelector>("svSelector")->color().rgb(), QColor(Qt::black).rgb());
     QCOMPARE(world.get<SVSelector>("svSelector")->value(), 0);
+    QCOMPARE(world.get<SVSelector>("svSelector")->saturation(), 255);
+    QCOMPARE(world.get<HSelector>("hSelector")->hue(), 0);
     QCOMPARE(world.get<QComboBox>("comboBox_BasicColors")->currentText(), QStringLiteral("None"));
 
     world.get<QAbstractButton>("pushButton")->click();
     QCOMPARE(world.stored(SettingKeys::centreColour), QString());
     world.get<QAbstractButton>("colorpick1")->click(); // and back to a zone that has one
-    QCOMPARE(text(world, "leRGB"), QStringLiteral("255 0 0"));
-    QCOMPARE(text(world, "leHex"), QStringLiteral("ff0000"));
+    QCOMPARE(text(world, "leRGB"), QStringLiteral("0 255 0"));
+    QCOMPARE(text(world, "leHex"), QStringLiteral("00ff00"));
 }
 
 void TestPicker::basicColorChosenTwice_data()

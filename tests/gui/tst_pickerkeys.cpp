@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QSignalSpy>
+#include <QTabWidget>
 #include <QTest>
 
 namespace {
@@ -58,7 +59,8 @@ private:
 void TestPickerKeys::init()
 {
     world = std::make_unique<TestWindow>();
-    world->writeSettings("backlight_on=true\nbrightlevel=100\nZone1Color=0 128 128\n");
+    world->writeSettings("backlight_on=true\nbrightlevel=100\nZone1Color=0 128 128\n"
+                         "P751LEDStripe=true\n");
     MainWindow &window = world->start();
     window.show();
     window.activateWindow();
@@ -280,35 +282,44 @@ void TestPickerKeys::pickerTakesTheFocusAndGivesItBack()
 
 void TestPickerKeys::mouseLeavesNoMark_data()
 {
+    QTest::addColumn<QByteArray>("opener");
+    QTest::addColumn<int>("page");
     QTest::addColumn<QByteArray>("closer");
-    QTest::newRow("Apply Value") << QByteArray("pushButton");
-    QTest::newRow("Cancel") << QByteArray("pushButton_2");
+    QTest::newRow("Apply Value") << QByteArray("colorpick1") << 1 << QByteArray("pushButton");
+    QTest::newRow("Cancel") << QByteArray("colorpick1") << 1 << QByteArray("pushButton_2");
+    QTest::newRow("centre") << QByteArray("colorpick2") << 1 << QByteArray("pushButton");
+    QTest::newRow("right") << QByteArray("colorpick3") << 1 << QByteArray("pushButton");
+    QTest::newRow("keyboard") << QByteArray("colorpick4") << 0 << QByteArray("pushButton");
+    QTest::newRow("stripe") << QByteArray("colorpick5") << 2 << QByteArray("pushButton");
 }
 
 /// The focus is marked for those who came by the keyboard, in both directions.
 void TestPickerKeys::mouseLeavesNoMark()
 {
+    QFETCH(QByteArray, opener);
+    QFETCH(int, page);
     QFETCH(QByteArray, closer);
-    auto *const opener = get<QWidget>("colorpick1");
+    auto *const open = get<QWidget>(opener.constData());
     auto *const square = get<SVSelector>("svSelector");
     auto *const close = get<QWidget>(closer.constData());
     get<QAbstractButton>("pushButton_2")->click();
     get<QWidget>("backlight_on")->setFocus();
-    const QImage unmarked = opener->grab().toImage();
+    get<QTabWidget>("tabWidget_2")->setCurrentIndex(page);
+    const QImage unmarked = open->grab().toImage();
 
-    QTest::mouseClick(opener, Qt::LeftButton);
+    QTest::mouseClick(open, Qt::LeftButton);
     QCOMPARE(QApplication::focusWidget(), square);
     QVERIFY(frameOf(*square).lightness() < 240);
     QTest::mouseClick(close, Qt::LeftButton);
-    QVERIFY(opener->grab().toImage() == unmarked);
+    QVERIFY(open->grab().toImage() == unmarked);
 
-    opener->setFocus(Qt::TabFocusReason);
-    QTest::keyClick(opener, Qt::Key_Space);
+    open->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(open, Qt::Key_Space);
     QCOMPARE(QApplication::focusWidget(), square);
     QVERIFY(frameOf(*square).lightness() > 240);
     QTest::keyClick(close, Qt::Key_Space);
-    QCOMPARE(QApplication::focusWidget(), opener);
-    QVERIFY(opener->grab().toImage() != unmarked);
+    QCOMPARE(QApplication::focusWidget(), open);
+    QVERIFY(open->grab().toImage() != unmarked);
 }
 
 QTEST_MAIN(TestPickerKeys)

@@ -1,3 +1,4 @@
+#include "tests/gui/focuswatcher.h"
 #include "tests/gui/raisewatcher.h"
 #include "tests/support/testwindow.h"
 
@@ -43,6 +44,7 @@ private slots:
     void closeButtonCloses();
     void closeButtonHides();
     void shownIsRaised();
+    void shownTakesTheFocus();
     void minimise();
     void dragging();
     void draggingByWhatLiesOnTheWindow_data();
@@ -84,7 +86,8 @@ void TestShell::nativeWindowIsPrepared()
     QVERIFY(world.platform.prepared.isEmpty()); // it is the same window
     window.setWindowFlags(window.windowFlags() | Qt::WindowStaysOnTopHint);
     window.show();
-    QVERIFY(askedFor()); // it was made over
+    QVERIFY(askedFor());                           // it was made over
+    QVERIFY(!world.platform.prepared.contains(0)); // nothing is asked of the one that went
 }
 
 void TestShell::eventFilterKeepsNothingBack()
@@ -135,6 +138,21 @@ void TestShell::shownIsRaised()
     const RaiseWatcher raises(window);
     window.ShowInterface();
     QCOMPARE(raises.count, 1);
+    QVERIFY(raises.wasVisible);
+}
+
+/// As if a key had brought it, so that what it goes on to is marked.
+void TestShell::shownTakesTheFocus()
+{
+    TestWindow world;
+    MainWindow &window = world.start();
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    world.get<QWidget>("Check_CloseHides")->setFocus();
+    const FocusWatcher focus(window);
+    window.ShowInterface();
+    QCOMPARE(focus.reasons, QVector<Qt::FocusReason>{Qt::OtherFocusReason});
 }
 
 void TestShell::minimise()
@@ -169,6 +187,10 @@ void TestShell::dragging()
     send(QEvent::MouseButtonPress, {20, 5}, Qt::LeftButton, Qt::LeftButton);
     send(QEvent::MouseMove, {50, 45}, Qt::NoButton, Qt::LeftButton);
     QCOMPARE(window.pos(), before + QPoint(30, 40));
+    send(QEvent::MouseButtonRelease, {20, 5}, Qt::RightButton, Qt::LeftButton);
+    send(QEvent::MouseMove, {25, 5}, Qt::NoButton, Qt::LeftButton);
+    QCOMPARE(window.pos(), before + QPoint(35, 40)); // another button lets nothing go
+    send(QEvent::MouseMove, {15, 5}, Qt::NoButton, Qt::LeftButton);
     send(QEvent::MouseButtonRelease, {20, 5}, Qt::LeftButton, Qt::NoButton);
     send(QEvent::MouseMove, {90, 95}, Qt::NoButton, Qt::LeftButton);
     QCOMPARE(window.pos(), before + QPoint(30, 40));

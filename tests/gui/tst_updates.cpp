@@ -1,3 +1,4 @@
+#include "focuswatcher.h"
 #include "raisewatcher.h"
 #include "tests/support/patience.h"
 #include "updateworld.h"
@@ -43,6 +44,7 @@ private slots:
     void updateIsOfferedAtStart_data();
     void updateIsOfferedAtStart();
     void windowComesForward();
+    void windowInFrontTakesTheFocus();
     void answers_data();
     void answers();
     void manualStaysSetAfterAnUpdate();
@@ -201,6 +203,26 @@ void TestUpdates::windowComesForward()
     window.SetAppVersion();
     QVERIFY(inFront);
     QCOMPARE(raises.count, 1);
+}
+
+/// As a window does that is activated: nobody has come to its controls by a key.
+void TestUpdates::windowInFrontTakesTheFocus()
+{
+    UpdateWorld world("1.0.4");
+    MainWindow &window = world.start();
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    world.get<QWidget>("Check_CloseHides")->setFocus();
+    world.server.answerWith("1.0.5");
+    BoxWatcher watcher(QMessageBox::No);
+    QVector<Qt::FocusReason> reasons;
+    const FocusWatcher focus(window);
+    watcher.look = [&](const QMessageBox & /*box*/) {
+        reasons = focus.reasons.mid(0, 1);
+    };
+    window.SetAppVersion();
+    QCOMPARE(reasons, QVector<Qt::FocusReason>{Qt::ActiveWindowFocusReason});
 }
 
 void TestUpdates::answers_data()

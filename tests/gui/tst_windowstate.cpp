@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QTabWidget>
 #include <QTest>
+#include <QToolBar>
 
 /// What of the window itself is kept or derived at start: pages, place, title, autostart.
 class TestWindowState : public QObject
@@ -26,6 +27,8 @@ private slots:
     void comesBackFromALostScreen_data();
     void comesBackFromALostScreen();
     void staysHalfOffTheScreen();
+    void sizesAreAdaptedOnce();
+    void barsAreRestored();
 };
 
 void TestWindowState::stripePageFollowsItsOption()
@@ -178,6 +181,38 @@ void TestWindowState::staysHalfOffTheScreen()
     window.ShowInterface();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     QCOMPARE(window.pos(), half);
+}
+
+/// Whoever makes the window smaller later on finds it so when it is shown again.
+void TestWindowState::sizesAreAdaptedOnce()
+{
+    TestWindow world;
+    MainWindow &window = world.start();
+    const QSize smaller(100, 90);
+    QVERIFY(window.minimumSize() != smaller);
+    window.setMinimumSize(smaller);
+    window.show();
+    QCOMPARE(window.minimumSize(), smaller);
+}
+
+void TestWindowState::barsAreRestored()
+{
+    TestWindow world;
+    MainWindow &window = world.start();
+    const QByteArray without = window.saveState();
+    auto *const bar = new QToolBar(&window); // there is none yet; states hold what bars do
+    bar->setObjectName(QStringLiteral("bar"));
+    window.addToolBar(bar);
+    bar->hide();
+    window.ShutdownQuit();
+    bar->show();
+    window.LoadSettings();
+    QVERIFY(bar->isHidden());
+    const QByteArray stored = world.settings.read(SettingKeys::mainWindowState);
+    QVERIFY(stored != without);
+    bar->show();
+    QVERIFY(window.restoreState(stored, 0));
+    QVERIFY(bar->isHidden());
 }
 
 QTEST_MAIN(TestWindowState)
