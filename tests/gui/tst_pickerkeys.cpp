@@ -320,6 +320,10 @@ void TestPickerKeys::mouseLeavesNoMark()
     QTest::keyClick(close, Qt::Key_Space);
     QCOMPARE(QApplication::focusWidget(), open);
     QVERIFY(open->grab().toImage() != unmarked);
+
+    QTest::keyClick(open, Qt::Key_Space);
+    QTest::mouseClick(close, Qt::LeftButton); // the last one counts
+    QVERIFY(open->grab().toImage() == unmarked);
 }
 
 QTEST_MAIN(TestPickerKeys)
