@@ -1,13 +1,17 @@
 #include "system/filelock.h"
 #include "system/segmentlock.h"
 
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QSharedMemory>
 #include <QSystemSemaphore>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <atomic>
 #include <csignal>
+#include <thread>
+#include <vector>
 
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -41,7 +45,13 @@ class TestLocks : public QObject
 
 private slots:
     void fileIsTheOwnersAlone();
+    void fileGoesWithTheLock();
+    void oneHolderAtATime();
+    void oneHolderAtATimeInAHurry();
+    void fileThatCannotBeMade_data();
+    void fileThatCannotBeMade();
     void segmentWithoutALock();
+    void oneSegmentLockAtATime();
     void segmentThatCannotBeAskedFor();
     void segmentLockOfAnotherProcess_data();
     void segmentLockOfAnotherProcess();
@@ -66,11 +76,108 @@ void TestLocks::fileIsTheOwnersAlone()
     const QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther
                                       | QFile::WriteOther | QFile::ExeGroup | QFile::ExeOther;
     QCOMPARE(QFileInfo(path).permissions() & others, QFile::Permissions());
+    QVERIFY(QFileInfo(path).permission(QFile::ReadOwner | QFile::WriteOwner));
+}
+
+void TestLocks::fileGoesWithTheLock()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("lock"));
+    auto lock = FileLock::acquire(path, 0);
+    QVERIFY(lock);
+    QVERIFY(QFileInfo::exists(path));
+    lock.reset();
+    QVERIFY(!QFileInfo::exists(path));
+}
+
+void TestLocks::oneHolderAtATime()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("lock"));
+    auto lock = FileLock::acquire(path, 0);
+    QVERIFY(lock);
+    QVERIFY(!FileLock::acquire(path, 0));
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(!FileLock::acquire(path, 100));
+    QVERIFY(timer.elapsed() >= 100);
+    QVERIFY(QFileInfo::exists(path));
+    lock.reset();
+    QVERIFY(FileLock::acquire(path, 0));
+}
+
+/// Whoever has opened the file just before its holder removed it locks what nobody else finds.
+void TestLocks::oneHolderAtATimeInAHurry()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("lock"));
+    std::atomic<int> holders = 0;
+    std::atomic<int> tooMany = 0;
+    std::atomic<int> held = 0;
+    std::vector<std::thread> threads;
+    for (int thread = 0; thread < 4; ++thread) {
+        threads.emplace_back([&] {
+            for (int attempt = 0; attempt < 5000; ++attempt) {
+                if (const auto lock = FileLock::acquire(path, 0)) {
+                    ++held;
+                    tooMany += ++holders > 1 ? 1 : 0;
+                    std::this_thread::yield();
+                    --holders;
+                }
+            }
+        });
+    }
+    for (std::thread &thread : threads) {
+        thread.join();
+    }
+    QVERIFY(held > 0);
+    QCOMPARE(tooMany.load(), 0);
+}
+
+void TestLocks::fileThatCannotBeMade_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("no such folder") << QStringLiteral("missing/lock");
+    QTest::newRow("a link, which may lead anywhere") << QStringLiteral("link");
+}
+
+/// There is nothing to wait for.
+void TestLocks::fileThatCannotBeMade()
+{
+    QFETCH(QString, path);
+    const QTemporaryDir folder;
+    const QString target = folder.filePath(QStringLiteral("target"));
+    QVERIFY(QFile::link(target, folder.filePath(QStringLiteral("link"))));
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(!FileLock::acquire(folder.filePath(path), 20'000));
+    QVERIFY2(timer.elapsed() < 10'000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY(!QFileInfo::exists(target));
 }
 
 void TestLocks::segmentWithoutALock()
 {
     QVERIFY(runs(QStringLiteral("/tmp/qipc_sharedmemory_nobodyhasmadeit")));
+}
+
+void TestLocks::oneSegmentLockAtATime()
+{
+    QSharedMemory segment(QStringLiteral("LumikeyTestLocksSegment"));
+    QVERIFY(segment.create(1));
+    const QString key = segment.nativeKey();
+    for (int time = 0; time < 2; ++time) {
+        bool had = true;
+        bool ran = false;
+        QVERIFY(SegmentLock::tryRun(
+            key, [&] { had = SegmentLock::tryRun(key, [&ran] { ran = true; }); }));
+        QVERIFY(!had && !ran);
+    }
+    QVERIFY(segment.lock());
+    bool ran = false;
+    QVERIFY(!SegmentLock::tryRun(key, [&ran] { ran = true; }));
+    QVERIFY(!ran);
+    QVERIFY(segment.unlock());
+    QVERIFY(runs(key));
 }
 
 void TestLocks::segmentThatCannotBeAskedFor()
