@@ -12,6 +12,7 @@ private slots:
     void startsInTheProgramsFolder_data();
     void startsInTheProgramsFolder();
     void specialLetters();
+    void wholeEntry();
     void execLine_data();
     void execLine();
 };
@@ -22,6 +23,8 @@ void TestDesktopEntry::pathComesBack_data()
     QTest::newRow("plain") << QStringLiteral("/opt/lumikey/Lumikey");
     QTest::newRow("blank") << QStringLiteral("/opt/my lights/Lumikey");
     QTest::newRow("percent") << QStringLiteral("/opt/100%/%u/Lumikey");
+    QTest::newRow("percent at the end") << QStringLiteral("/opt/Lumikey%");
+    QTest::newRow("percents") << QStringLiteral("/opt/%%%/Lumikey");
     QTest::newRow("quotes") << QStringLiteral("/opt/\"a\"`b`$c\\d/Lumikey");
     QTest::newRow("non-ASCII") << QStringLiteral("/opt/Lämpchen/Lumikey");
 }
@@ -67,6 +70,14 @@ void TestDesktopEntry::specialLetters()
     QVERIFY2(entry.contains("\nExec=\"/a\\\\\"b\\\\`c\\\\$d\\\\\\\\e\"\n"), entry.constData());
 }
 
+/// Each percent sign is doubled: alone it would have the desktop put something in its place.
+void TestDesktopEntry::wholeEntry()
+{
+    QCOMPARE(DesktopEntry::write(QStringLiteral("Lumikey"), QStringLiteral("/opt/9%u/Lumikey")),
+             QByteArray("[Desktop Entry]\nType=Application\nName=Lumikey\n"
+                        "Exec=\"/opt/9%%u/Lumikey\"\nPath=/opt/9%u\nTerminal=false\n"));
+}
+
 void TestDesktopEntry::execLine_data()
 {
     QTest::addColumn<QByteArray>("entry");
@@ -75,6 +86,10 @@ void TestDesktopEntry::execLine_data()
         << QByteArray("[Desktop Entry]\nExec=/usr/bin/Lumikey --x\n")
         << QStringLiteral("/usr/bin/Lumikey");
     QTest::newRow("escaped dollar") << QByteArray("Exec=\"/a\\\\$b\"\n") << QStringLiteral("/a$b");
+    QTest::newRow("backslash without quotes")
+        << QByteArray("Exec=/a\\\\b\n") << QStringLiteral("/a\\b");
+    QTest::newRow("single percent") << QByteArray("Exec=/a%b/c\n") << QStringLiteral("/a%b/c");
+    QTest::newRow("single percent at the end") << QByteArray("Exec=/a%\n") << QStringLiteral("/a%");
     QTest::newRow("none") << QByteArray("[Desktop Entry]\nName=Lumikey\n") << QString();
     QTest::newRow("empty file") << QByteArray() << QString();
     QTest::newRow("open quote") << QByteArray("Exec=\"/a b") << QStringLiteral("/a b");

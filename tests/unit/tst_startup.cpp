@@ -37,6 +37,8 @@ void TestStartup::plan_data()
                                << QStringLiteral("D:\\Tools\\Lumikey.exe");
     QTest::newRow("own folder, rewritten all the same")
         << run << QStringLiteral("C:/Apps/Lumikey") << unchanged << run;
+    QTest::newRow("a folder of the entry's very name")
+        << run << QStringLiteral("C:/Apps/Lumikey/Lumikey.exe") << unchanged << unchanged;
     QTest::newRow("drive root") << run << QStringLiteral("D:/") << unchanged
                                 << QStringLiteral("D:\\\\Lumikey.exe");
     QTest::newRow("no value") << QString() << QStringLiteral("D:/Tools") << unchanged << unchanged;
