@@ -40,7 +40,7 @@ QNetworkProxy proxyFor(const QUrl &url, const QProcessEnvironment &environment)
 {
     const QString named = environment.value(QStringLiteral("http_proxy")).trimmed();
     const QUrl proxy = QUrl::fromUserInput(named);
-    if (named.isEmpty() || proxy.host().isEmpty()
+    if (proxy.host().isEmpty()
         || isExcepted(url.host(), environment.value(QStringLiteral("no_proxy")))) {
         return QNetworkProxy::NoProxy;
     }
@@ -72,7 +72,7 @@ void VersionRequest::takeBody()
         return; // abort() below has closed it
     }
     body += reply->read(maxBytes - body.size());
-    if (body.size() == maxBytes && reply->isRunning()) {
-        reply->abort(); // emits finished()
+    if (body.size() == maxBytes) {
+        reply->abort(); // emits finished(), where it was not
     }
 }

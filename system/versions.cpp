@@ -21,8 +21,8 @@ qint64 compareVersions(const QString &installed, const QString &latest)
 
 VersionVerdict versionVerdict(qint64 comparison)
 {
-    if (comparison == 0) {
-        return VersionVerdict::Latest;
+    if (comparison > 0) {
+        return VersionVerdict::Newer;
     }
-    return comparison < 0 ? VersionVerdict::UpdateWaits : VersionVerdict::Newer;
+    return comparison < 0 ? VersionVerdict::UpdateWaits : VersionVerdict::Latest;
 }
