@@ -169,14 +169,12 @@ void AppSettings::report(Access access, const QSettings &settings) const
 {
     settings.childKeys(); // parses every section: damage is found now, not after a write
     QSettings::Status status = settings.status();
-    if (status == QSettings::NoError && isUnreadable(settings.fileName())) {
-        status = QSettings::AccessError;
-    }
     // QSettings tries a write that failed again with the next object of the same file. Where that
     // one only reads, its AccessError is of the write: reading works, and that is what is asked
     // here.
-    if (access == ReadSettings && status == QSettings::AccessError
-        && !isUnreadable(settings.fileName())) {
+    if (isUnreadable(settings.fileName())) {
+        status = QSettings::AccessError;
+    } else if (status == QSettings::AccessError) {
         status = QSettings::NoError;
     }
     report(access, settings.fileName(), status);

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QVariant>
 
+#include <algorithm>
 #include <limits>
 
 /// How a value stands in an INI file.
@@ -43,10 +44,8 @@ template<> struct Bounds<int>
 
     constexpr int applied(int value) const
     {
-        if (value >= lowest && value <= highest) {
-            return value;
-        }
-        return beyond == Beyond::ReadsAsZero ? 0 : value < lowest ? lowest : highest;
+        const int nearest = std::clamp(value, lowest, highest);
+        return beyond == Beyond::ReadsAsZero && nearest != value ? 0 : nearest;
     }
 };
 

@@ -59,9 +59,11 @@ private slots:
     void bytesComeBack();
     void startHiddenIsANumberThatReadsAsBoolean();
     void folderIsMadeBeforeTheFirstWrite();
+    void folderIsMadeForWhoeverKeepsTheFileOpen();
     void everyWriteIsOnDiskAtOnce();
     void whatTheFileHoldsIsKept_data();
     void whatTheFileHoldsIsKept();
+    void emptyValueIsStoredOnce();
     void severalKeysAtOnce();
     void noMoreFilesThanQSettingsMakes();
     void foreignKeysStay();
@@ -109,6 +111,7 @@ void TestAppSettings::numbersBeyondTheirBounds_data()
     };
     row(SettingKeys::brightLevel, "-1", 0);
     row(SettingKeys::brightLevel, "0", 0);
+    row(SettingKeys::brightLevel, "1", 1);
     row(SettingKeys::brightLevel, "100", 100);
     row(SettingKeys::brightLevel, "101", 100);
     row(SettingKeys::brightLevel, "2147483648", 0); // no such number
@@ -116,6 +119,7 @@ void TestAppSettings::numbersBeyondTheirBounds_data()
     row(SettingKeys::effects, "-1", 0);
     row(SettingKeys::effects, "7", 7);
     row(SettingKeys::effects, "8", 0);
+    row(SettingKeys::dimTimer, "-1", 0);
     row(SettingKeys::dimTimer, "8", 8);
     row(SettingKeys::dimTimer, "9", 0);
 }
@@ -215,6 +219,16 @@ void TestAppSettings::folderIsMadeBeforeTheFirstWrite()
     QVERIFY(QFileInfo(settings->settingsIni()).isFile());
 }
 
+void TestAppSettings::folderIsMadeForWhoeverKeepsTheFileOpen()
+{
+    const auto open = settings->openSettings();
+    QVERIFY(open);
+    QVERIFY(QFileInfo(settings->companyDir()).isDir());
+    open->setValue(settingsPath(SettingKeys::brightLevel), 5);
+    open->sync();
+    QCOMPARE(settings->read(SettingKeys::brightLevel), 5);
+}
+
 void TestAppSettings::everyWriteIsOnDiskAtOnce()
 {
     for (const int level : {1, 2, 100}) {
@@ -236,6 +250,17 @@ void TestAppSettings::whatTheFileHoldsIsKept_data()
                                   << QByteArray("[settings]\nAutoDim=true\n");
     QTest::newRow("none") << QByteArray("[settings]\n;\n")
                           << QByteArray("[settings]\nAutoDim=true\n");
+}
+
+/// A key that is missing does not hold the empty value.
+void TestAppSettings::emptyValueIsStoredOnce()
+{
+    settings->writeIfChanged(SettingKeys::leftColour, QString());
+    QVERIFY(settingsText().contains("Zone1Color="));
+    const QByteArray commented("[settings]\n;\nZone1Color=\n");
+    writeFile(settings->settingsIni(), commented);
+    settings->writeIfChanged(SettingKeys::leftColour, QString());
+    QCOMPARE(settingsText(), commented);
 }
 
 void TestAppSettings::whatTheFileHoldsIsKept()
