@@ -108,9 +108,10 @@ SingleApplicationPrivate::Role SingleApplicationPrivate::takeRole(bool allowSeco
     if (block->attach()) {
         block->detach();
     }
-    const bool created = block->create(sizeof(InstanceBlock));
-    const bool attached = created || block->attach();
-    if (!attached || block->size() < static_cast<int>(sizeof(InstanceBlock)) || !block->lock()) {
+    if (!block->create(sizeof(InstanceBlock))) {
+        block->attach(); // a block that is not there has no size
+    }
+    if (block->size() < static_cast<int>(sizeof(InstanceBlock)) || !block->lock()) {
         block.reset();
         // The running copy may have other rights than this one, so that all about it is hidden.
         platform.letComeToFront(Platform::anyProcess);
@@ -118,7 +119,7 @@ SingleApplicationPrivate::Role SingleApplicationPrivate::takeRole(bool allowSeco
     }
     Role role = Role::Primary;
     if (!contents(*block).primaryRunning) {
-        becomePrimary(created);
+        becomePrimary();
     } else if (allowSecondary) {
         instanceNumber = ++contents(*block).secondaryCount;
         role = Role::Secondary;
@@ -135,7 +136,6 @@ SingleApplicationPrivate::Role SingleApplicationPrivate::takeRole(bool allowSeco
 
 void SingleApplicationPrivate::releaseRole()
 {
-    socket.reset();
     if (!block) {
         return;
     }
@@ -152,10 +152,10 @@ void SingleApplicationPrivate::releaseRole()
 }
 
 /// The block is locked.
-void SingleApplicationPrivate::becomePrimary(bool reset)
+void SingleApplicationPrivate::becomePrimary()
 {
     QLocalServer::removeServer(serverName);
-    server = std::make_unique<QLocalServer>();
+    server = std::make_unique<QLocalServer>(&application);
     server->setSocketOptions((options & SingleApplication::PerUser) != 0
                                  ? QLocalServer::UserAccessOption
                                  : QLocalServer::WorldAccessOption);
@@ -164,30 +164,18 @@ void SingleApplicationPrivate::becomePrimary(bool reset)
     }
     connect(server.get(), SIGNAL(newConnection()), this, SLOT(slotConnectionEstablished()));
 
+    // A new block counts no secondary copies; in one that was there they go on running.
     InstanceBlock &shared = contents(*block);
-    if (reset) {
-        shared.secondaryCount = 0;
-    }
     shared.primaryRunning = true;
     shared.primaryProcessId = QCoreApplication::applicationPid();
-    instanceNumber = 0;
 }
 
 void SingleApplicationPrivate::connectToPrimary(int timeoutMs, ConnectionMessage::Type type)
 {
-    if (!socket) {
-        socket = std::make_unique<QLocalSocket>();
-    }
-    if (socket->state() == QLocalSocket::UnconnectedState
-        || socket->state() == QLocalSocket::ClosingState) {
-        socket->connectToServer(serverName, QIODevice::ReadWrite);
-    }
-    if (socket->state() == QLocalSocket::ConnectingState) {
-        socket->waitForConnected(timeoutMs);
-    }
-    if (socket->state() == QLocalSocket::ConnectedState) {
+    socket = std::make_unique<QLocalSocket>();
+    socket->connectToServer(serverName, QIODevice::ReadWrite);
+    if (socket->waitForConnected(timeoutMs)) {
         socket->write(encodeConnectionMessage(serverName, {type, instanceNumber}));
-        socket->flush();
         socket->waitForBytesWritten(timeoutMs);
     }
 }

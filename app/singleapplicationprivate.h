@@ -46,7 +46,7 @@ private:
     Role takeRole(bool allowSecondary);
     /// From here on no copy has the role, until the next start or takeBack() takes it.
     void releaseRole();
-    void becomePrimary(bool reset);
+    void becomePrimary();
     void connectToPrimary(int timeoutMs, ConnectionMessage::Type type);
     void listenTo(QLocalSocket *client, quint32 instanceId);
     void passOn(QLocalSocket *client, quint32 instanceId);

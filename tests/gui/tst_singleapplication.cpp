@@ -1,7 +1,5 @@
 #include "guardtest.h"
 
-#include "app/connectionmessage.h"
-
 #include <QElapsedTimer>
 #include <QLocalSocket>
 #include <QRandomGenerator>
@@ -30,6 +28,7 @@ public:
 
 private slots:
     void init();
+    void cleanup();
     void block();
     void newStart();
     void secondaryThatIsNotAnnounced();
@@ -40,13 +39,17 @@ private slots:
     void oneByteAtATime();
     void clientThatLeavesAtOnce();
     void messages();
+    void everyByteIsPassedOn();
     void longMessages();
     void longMessagesOneAfterTheOther();
     void randomMessages();
 
 private:
-    std::unique_ptr<QLocalSocket> connectClient() const;
-    std::unique_ptr<QLocalSocket> announce(quint8 type, quint32 number = 0) const;
+    std::unique_ptr<QLocalSocket> connectClient() const { return connectTo(name); }
+    std::unique_ptr<QLocalSocket> announce(quint8 type, quint32 number = 0) const
+    {
+        return GuardTest::announce(name, type, number);
+    }
     /// The bytes of all messages so far.
     qint64 length() const;
 
@@ -65,22 +68,13 @@ void TestSingleApplication::init()
     QVERIFY(started->isValid() && received->isValid());
 }
 
-std::unique_ptr<QLocalSocket> TestSingleApplication::connectClient() const
+/// Of clients that have gone nothing stays behind, and nobody is told of nothing.
+void TestSingleApplication::cleanup()
 {
-    auto client = std::make_unique<QLocalSocket>();
-    client->connectToServer(name);
-    if (!client->waitForConnected(5000)) {
-        qFatal("cannot connect: %s", qPrintable(client->errorString()));
+    QTRY_VERIFY(application.findChildren<QLocalSocket *>().isEmpty());
+    for (const QList<QVariant> &arguments : qAsConst(*received)) {
+        QVERIFY(!arguments.at(1).toByteArray().isEmpty());
     }
-    return client;
-}
-
-std::unique_ptr<QLocalSocket> TestSingleApplication::announce(quint8 type, quint32 number) const
-{
-    auto client = connectClient();
-    client->write(encodeConnectionMessage(name, {type, number}));
-    client->flush();
-    return client;
 }
 
 qint64 TestSingleApplication::length() const
@@ -200,7 +194,6 @@ void TestSingleApplication::clientThatLeavesAtOnce()
         client->close(); // before the primary copy has looked
         QTRY_COMPARE(started->count(), start + 1);
     }
-    QTRY_VERIFY(application.findChildren<QLocalSocket *>().isEmpty());
 }
 
 void TestSingleApplication::messages()
@@ -221,6 +214,20 @@ void TestSingleApplication::messages()
         texts.append(arguments.at(1).toByteArray());
     }
     QCOMPARE(texts, QByteArrayList({"first", "second", "last"}));
+}
+
+/// Also one that comes alone, and the last that there is room for.
+void TestSingleApplication::everyByteIsPassedOn()
+{
+    const auto client = announce(ConnectionMessage::NewStart);
+    QTRY_COMPARE(started->count(), 1);
+    client->write("x");
+    QTRY_COMPARE(length(), 1);
+    client->write(QByteArray(bound - 2, 'x'));
+    QTRY_COMPARE(length(), bound - 1);
+    client->write("x");
+    QTRY_COMPARE(length(), bound);
+    QCOMPARE(client->state(), QLocalSocket::ConnectedState);
 }
 
 void TestSingleApplication::longMessages()

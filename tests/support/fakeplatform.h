@@ -28,6 +28,7 @@ public:
     std::shared_ptr<void> acquireLock(const QString &name, int timeoutMs) override
     {
         ++locks;
+        lockTimeout = timeoutMs;
         return createPlatform()->acquireLock(name, timeoutMs);
     }
     void letComeToFront(qint64 processId) override { letToFront.append(processId); }
@@ -116,6 +117,7 @@ public:
 
     // What was asked of it
     int locks = 0;
+    int lockTimeout = 0; ///< milliseconds, of the last one
     int polls = 0;
     std::function<void()> resumeNotice;
     QVector<int> sleeps;        ///< milliseconds
