@@ -1,10 +1,13 @@
 #include "system/polkit.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QStandardPaths>
 #include <QStringList>
+#include <QThread>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <vector>
@@ -44,10 +47,8 @@ void waitForEnd(int pipe)
 
 Platform::Relaunch Polkit::relaunch(const QString &path)
 {
+    // Where there is none this is empty, and names nothing that could be started.
     const QString pkexec = QStandardPaths::findExecutable(QStringLiteral("pkexec"));
-    if (pkexec.isEmpty()) {
-        return Platform::Relaunch::Failed;
-    }
     std::vector<QByteArray> words;
     // pkexec would leave the program in root's home, where nothing of its own is found.
     const QStringList environment{QStringLiteral("env"), QStringLiteral("-C"), QDir::currentPath()};
@@ -55,12 +56,9 @@ Platform::Relaunch Polkit::relaunch(const QString &path)
          QStringList{pkexec} + environment + displayVariables() + QStringList{path}) {
         words.push_back(QFile::encodeName(word));
     }
-    std::vector<char *> arguments;
-    arguments.reserve(words.size() + 1);
-    for (QByteArray &word : words) {
-        arguments.push_back(word.data());
-    }
-    arguments.push_back(nullptr);
+    std::vector<char *> arguments(words.size() + 1); // the last one stays null
+    std::transform(words.begin(), words.end(), arguments.begin(),
+                   [](QByteArray &word) { return word.data(); });
 
     // pkexec closes what it inherited when, and only when, it becomes the program; so the end of
     // this pipe tells that the user has answered.
@@ -78,24 +76,25 @@ Platform::Relaunch Polkit::relaunch(const QString &path)
                                     arguments.data(), environ);
     ::posix_spawn_file_actions_destroy(&actions);
     ::close(writeEnd);
-    if (error == 0) {
-        waitForEnd(readEnd);
-    }
+    waitForEnd(readEnd); // at once where nothing was started
     ::close(readEnd);
     if (error != 0) {
         return Platform::Relaunch::Failed;
     }
 
     // An end by exit() closes the pipe a moment before the process can be waited for.
-    constexpr int patience = 20;
-    constexpr useconds_t pauseUs = 10'000;
-    for (int i = 0; i < patience; ++i) {
-        int status = 0;
-        if (::waitpid(child, &status, WNOHANG) == child) {
-            const bool declined = WIFEXITED(status) && WEXITSTATUS(status) == dismissed;
-            return declined ? Platform::Relaunch::Declined : Platform::Relaunch::Failed;
+    constexpr int patienceMs = 200;
+    constexpr unsigned long pauseMs = 10;
+    int status = 0;
+    bool ended = false;
+    for (const QDeadlineTimer patience(patienceMs); !ended && !patience.hasExpired();) {
+        ended = ::waitpid(child, &status, WNOHANG) == child;
+        if (!ended) {
+            QThread::msleep(pauseMs);
         }
-        ::usleep(pauseUs);
     }
-    return Platform::Relaunch::Launched;
+    const bool declined = WIFEXITED(status) && WEXITSTATUS(status) == dismissed;
+    return !ended     ? Platform::Relaunch::Launched
+           : declined ? Platform::Relaunch::Declined
+                      : Platform::Relaunch::Failed;
 }

@@ -2,8 +2,16 @@
 #include "tests/support/guitest.h"
 
 #include <QElapsedTimer>
+#include <QProcessEnvironment>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <csignal>
+
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/select.h>
+#include <unistd.h>
 
 /// Being started again as root, with a stand-in for pkexec first on the path.
 class TestPolkit : public QObject
@@ -11,16 +19,21 @@ class TestPolkit : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase();
     void init();
     void cleanup();
     void launched();
     void launchedInTheSamePlace();
+    void commandLine_data();
+    void commandLine();
     void waitsForTheAnswer();
+    void waitsThroughSignalsAndNoise();
     void refused_data();
     void refused();
     void refusedAfterAWhile();
     void targetIsMissing();
     void noPkexec();
+    void noDescriptorIsLeft();
     void notAProgram();
 
 private:
@@ -49,6 +62,15 @@ void makeScript(const QString &path, const QByteArray &body)
 }
 
 } // namespace
+
+/// What started the test may have left pipes open; here the stand-in inherits none but those that
+/// relaunch() gives it.
+void TestPolkit::initTestCase()
+{
+    for (int file = STDERR_FILENO + 1; file < FD_SETSIZE; ++file) {
+        ::fcntl(file, F_SETFD, FD_CLOEXEC); // no matter where there is none
+    }
+}
 
 void TestPolkit::init()
 {
@@ -100,6 +122,44 @@ void TestPolkit::launchedInTheSamePlace()
     QTRY_COMPARE(recorded(), "0|:77|/tmp/a b/authority|" + folder->path().toUtf8() + '\n');
 }
 
+void TestPolkit::commandLine_data()
+{
+    QTest::addColumn<QByteArrayList>("set");
+    QTest::newRow("nothing") << QByteArrayList();
+    QTest::newRow("X11") << QByteArrayList{"DISPLAY=:77", "XAUTHORITY=/tmp/a b/authority"};
+    QTest::newRow("Wayland") << QByteArrayList{"WAYLAND_DISPLAY=wayland-7",
+                                               "XDG_RUNTIME_DIR=/run/user/7"};
+    QTest::newRow("both, one of them empty")
+        << QByteArrayList{"DISPLAY=", "XAUTHORITY=/a", "WAYLAND_DISPLAY=b", "XDG_RUNTIME_DIR=/c"};
+}
+
+/// The user is shown it; and nothing is told of what is not set.
+void TestPolkit::commandLine()
+{
+    QFETCH(QByteArrayList, set);
+    const QByteArray record = QFile::encodeName(folder->filePath(QStringLiteral("record")));
+    makePkexec("printf '%s\\n' \"$@\" >'" + record + "'\nexit 127\n");
+    const auto before = QProcessEnvironment::systemEnvironment();
+    for (const char *name : {"DISPLAY", "XAUTHORITY", "WAYLAND_DISPLAY", "XDG_RUNTIME_DIR"}) {
+        qunsetenv(name);
+    }
+    for (const QByteArray &assignment : set) {
+        const int end = assignment.indexOf('=');
+        qputenv(assignment.left(end).constData(), assignment.mid(end + 1));
+    }
+    const auto outcome = Polkit::relaunch(QStringLiteral("/opt/my lights/Lumikey"));
+    for (const char *name : {"DISPLAY", "XAUTHORITY", "WAYLAND_DISPLAY", "XDG_RUNTIME_DIR"}) {
+        qunsetenv(name);
+        if (before.contains(QLatin1String(name))) {
+            qputenv(name, before.value(QLatin1String(name)).toLocal8Bit());
+        }
+    }
+    QCOMPARE(outcome, Platform::Relaunch::Failed);
+    const QByteArrayList expected = QByteArrayList{"env", "-C", QDir::currentPath().toLocal8Bit()}
+                                    + set + QByteArrayList{"/opt/my lights/Lumikey", ""};
+    QCOMPARE(recorded().split('\n'), expected);
+}
+
 void TestPolkit::waitsForTheAnswer()
 {
     makePkexec(QByteArray("sleep 1\n") + becomeTheProgram);
@@ -107,6 +167,29 @@ void TestPolkit::waitsForTheAnswer()
     timer.start();
     QCOMPARE(Polkit::relaunch(makeTarget()), Platform::Relaunch::Launched);
     QVERIFY(timer.elapsed() >= 1000);
+}
+
+/// Neither is an answer.
+void TestPolkit::waitsThroughSignalsAndNoise()
+{
+    makePkexec(QByteArray("sleep 0.2\nkill -USR1 $PPID\n"
+                          "for fd in $(ls /proc/$$/fd); do\n"
+                          "  [ \"$fd\" -gt 2 ] && [ -p /proc/$$/fd/$fd ] && echo noise >&$fd\n"
+                          "done\n"
+                          "sleep 1\n")
+               + becomeTheProgram);
+    struct sigaction interrupting = {};
+    interrupting.sa_handler = [](int /*number*/) {
+    }; // without SA_RESTART, so that it is noticed
+    struct sigaction before = {};
+    ::sigaction(SIGUSR1, &interrupting, &before);
+    QElapsedTimer timer;
+    timer.start();
+    const auto outcome = Polkit::relaunch(makeTarget());
+    const qint64 waited = timer.elapsed();
+    ::sigaction(SIGUSR1, &before, nullptr);
+    QCOMPARE(outcome, Platform::Relaunch::Launched);
+    QVERIFY2(waited >= 1000, qPrintable(QString::number(waited)));
 }
 
 void TestPolkit::refused_data()
@@ -148,6 +231,22 @@ void TestPolkit::noPkexec()
 {
     qputenv("PATH", QFile::encodeName(folder->path()));
     QCOMPARE(Polkit::relaunch(makeTarget()), Platform::Relaunch::Failed);
+}
+
+void TestPolkit::noDescriptorIsLeft()
+{
+    makePkexec("exit 126\n");
+    const QString target = makeTarget();
+    struct rlimit before = {};
+    ::getrlimit(RLIMIT_NOFILE, &before);
+    const int lowest = ::dup(STDIN_FILENO); // all below it are taken
+    ::close(lowest);
+    struct rlimit none = before;
+    none.rlim_cur = static_cast<rlim_t>(lowest);
+    ::setrlimit(RLIMIT_NOFILE, &none);
+    const auto outcome = Polkit::relaunch(target);
+    ::setrlimit(RLIMIT_NOFILE, &before);
+    QCOMPARE(outcome, Platform::Relaunch::Failed);
 }
 
 void TestPolkit::notAProgram()
