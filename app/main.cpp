@@ -1,6 +1,7 @@
 #include "app/appsettings.h"
 #include "app/singleapplication.h"
 #include "app/startup.h"
+#include "app/toolkit.h"
 #include "app/translation.h"
 #include "system/platform.h"
 #include "ui/darkstyle.h"
@@ -58,14 +59,6 @@ void setFontForDpi(const Platform &platform)
     }
 }
 
-void setIdentity()
-{
-    QCoreApplication::setOrganizationDomain(QStringLiteral("TARVENWORKS"));
-    QCoreApplication::setOrganizationName(QStringLiteral("TARVENWORKS"));
-    QCoreApplication::setApplicationName(QStringLiteral("Lumikey"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(LUMIKEY_VERSION));
-}
-
 } // namespace
 
 int main(int argc, char *argv[])
@@ -73,23 +66,13 @@ int main(int argc, char *argv[])
     const std::unique_ptr<Platform> platform = createPlatform();
     repairWorkingDirectoryAndAutostart(*platform);
 
-    // At each change of the display's scale Qt asks anew whether to scale, by the attribute below,
-    // too. The window adapts itself, once, so the answer stays no.
-    QCoreApplication::setAttribute(Qt::AA_DisableHighDpiScaling);
-    // Nothing here is drawn by OpenGL; left to itself, Qt's first window on Linux loads its driver.
-    QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets);
+    Toolkit::prepare();
     SingleApplication application(argc, argv, false, SingleApplication::PerUser, instanceTimeoutMs,
                                   *platform);
     findBranding(*platform);
-    // Qt would close the window when the system asks whether the session may end, and with it the
-    // program, also where the user then stays.
-    QGuiApplication::setFallbackSessionManagementEnabled(false);
-    // Set after the application exists, so Qt leaves scaling alone: the window adapts itself.
-    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
+    Toolkit::adapt();
     setFontForDpi(*platform);
-    // Behind the guard, on purpose: the name that all copies share is made of the identity as Qt
-    // finds it by itself. Set earlier, it would part this version from those that already run.
-    setIdentity();
+    Toolkit::identify(QStringLiteral(LUMIKEY_VERSION));
     QApplication::setStyle(new DarkStyle); // the application takes ownership
     const AppSettings settings;
     speakChosenLanguage(settings, QLocale::system().uiLanguages());
