@@ -27,7 +27,7 @@ QByteArray encodeConnectionMessage(const QString &serverName, const ConnectionMe
 std::optional<ConnectionMessage> decodeConnectionMessage(const QByteArray &bytes,
                                                          const QString &serverName)
 {
-    const QByteArray fields = bytes.left(qMax(0, bytes.size() - checksumSize));
+    const QByteArray fields = bytes.left(bytes.size() - checksumSize);
     QDataStream stream(fields);
     stream.setVersion(streamVersion);
     QByteArray name;

@@ -15,6 +15,7 @@ class TestConnectionMessage : public QObject
     Q_OBJECT
 
 private slots:
+    void emptyMessage();
     void encode_data();
     void encode();
     void decode_data();
@@ -22,6 +23,13 @@ private slots:
     void everyWrongBitIsSeen();
     void randomBytes();
 };
+
+void TestConnectionMessage::emptyMessage()
+{
+    const ConnectionMessage message;
+    QCOMPARE(int(message.connectionType), 0); // which nobody sends
+    QCOMPARE(message.instanceNumber, 0U);
+}
 
 void TestConnectionMessage::encode_data()
 {

@@ -9,6 +9,8 @@ class TestLanguage : public QObject
 private slots:
     void translationForAName_data();
     void translationForAName();
+    void translationThatNamesNoLanguage();
+    void firstOfTheSameLanguage();
     void choice_data();
     void choice();
 };
@@ -60,6 +62,25 @@ void TestLanguage::translationForAName()
 {
     QFETCH(QString, name);
     QTEST(translationFor(name, translations), "code");
+}
+
+/// As a file may that somebody has put there.
+void TestLanguage::translationThatNamesNoLanguage()
+{
+    const QStringList odd{QStringLiteral("nonsense"), QStringLiteral("C"), QStringLiteral("de")};
+    QCOMPARE(translationFor(QStringLiteral("german"), odd), QString());
+    QCOMPARE(translationFor(QStringLiteral("C"), odd), QString());
+    QCOMPARE(translationFor(QStringLiteral("de"), odd), QStringLiteral("de"));
+    // English is no translation of this program's, but may be one of another's.
+    QCOMPARE(translationFor(QStringLiteral("en_GB"), {QStringLiteral("en")}), QStringLiteral("en"));
+}
+
+void TestLanguage::firstOfTheSameLanguage()
+{
+    const QStringList several{QStringLiteral("fr"), QStringLiteral("de_AT"),
+                              QStringLiteral("de_CH")};
+    QCOMPARE(translationFor(QStringLiteral("de_LU"), several), QStringLiteral("de_AT"));
+    QCOMPARE(translationFor(QStringLiteral("de_CH"), several), QStringLiteral("de_CH"));
 }
 
 void TestLanguage::choice_data()

@@ -39,6 +39,8 @@ private slots:
 
     void form_data();
     void form();
+    void codesAreInTheNamesOfFiles();
+    void noFileOfAShorterName();
     void everyLanguageSpeaks_data();
     void everyLanguageSpeaks();
     void choices_data();
@@ -118,6 +120,31 @@ void TestTranslation::form()
     QFETCH(QString, source);
     QFETCH(QString, translated);
     QTEST(keepsForm(source, translated), "kept");
+}
+
+void TestTranslation::codesAreInTheNamesOfFiles()
+{
+    const QString place = folder->filePath(QStringLiteral("translations"));
+    for (const char *name : {"lumikey_pt_BR.qm", "lumikey_de.qm", "lumikey_.qm", "lumikey_fr.ts",
+                             "other_it.qm", "mylumikey_ja.qm", "lumikey_ko.qm.old"}) {
+        writeFile(place + QLatin1Char('/') + QLatin1String(name), "any");
+    }
+    QVERIFY(QDir().mkpath(place + QStringLiteral("/lumikey_es.qm")));
+    QCOMPARE(Translation::codes(place),
+             QStringList({QStringLiteral("de"), QStringLiteral("pt_BR")}));
+    QCOMPARE(Translation::codes(folder->filePath(QStringLiteral("missing"))), QStringList());
+}
+
+/// The toolkit itself would be content with one.
+void TestTranslation::noFileOfAShorterName()
+{
+    const QString place = folder->filePath(QStringLiteral("translations"));
+    writeFile(place + QStringLiteral("/lumikey_de.qm"),
+              readFile(Translation::builtInFolder() + QStringLiteral("/lumikey_de.qm")));
+    QVERIFY(Translation::load(place, QStringLiteral("de")));
+    QTest::ignoreMessage(QtDebugMsg, qPrintable(QStringLiteral("Cannot read translation: ") + place
+                                                + QStringLiteral("/lumikey_de_AT.qm")));
+    QVERIFY(!Translation::load(place, QStringLiteral("de_AT")));
 }
 
 void TestTranslation::everyLanguageSpeaks_data()
@@ -200,7 +227,9 @@ void TestTranslation::brokenTexts()
         QCOMPARE(logged.size(), ++lines);
         QVERIFY(logged.last().startsWith(QLatin1String("Placeholders or line ends differ")));
     }
-    QCOMPARE(shown("Settings"), QStringLiteral("Settings")); // which that file lacks
+    for (const char *text : {"Settings", "%1 of %2"}) { // which that file lacks
+        QCOMPARE(shown(text), QString::fromLatin1(text));
+    }
     QCOMPARE(logged.size(), lines);
 }
 
