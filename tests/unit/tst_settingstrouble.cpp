@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QLockFile>
 #include <QRegularExpression>
+#include <QStorageInfo>
 #include <QSysInfo>
 #include <QTemporaryDir>
 #include <QTest>
@@ -42,6 +43,8 @@ private slots:
     void troubleIsLoggedOnce();
     void fileHeldByAnotherWriter();
     void roomIsAskedForBeforehand();
+    void roomThatIsJustEnough_data();
+    void roomThatIsJustEnough();
     void lockLeftByAKilledWriter_data();
     void lockLeftByAKilledWriter();
     void badBrandingIsLeftAlone();
@@ -237,6 +240,39 @@ void TestSettingsTrouble::roomIsAskedForBeforehand()
     QVERIFY(filler.resize(filler.size() - 40 * kilobyte));
     stored.writeSetting(SettingKeys::effects, 3);
     QCOMPARE(stored.readSetting(SettingKeys::effects).toInt(), 3);
+}
+
+void TestSettingsTrouble::roomThatIsJustEnough_data()
+{
+    QTest::addColumn<int>("fileSize");
+    QTest::addColumn<int>("stored");
+    QTest::newRow("enough") << 4096 << 2;
+    QTest::newRow("a byte too little") << 4097 << 1;
+}
+
+/// Room for the file once more, and 16 KiB.
+void TestSettingsTrouble::roomThatIsJustEnough()
+{
+    QFETCH(int, fileSize);
+    if (smallDisk.isEmpty()) {
+        QSKIP("this system lends no small disk");
+    }
+    constexpr qint64 room = 20'480;
+    const QTemporaryDir onDisk(smallDisk + QStringLiteral("/room"));
+    const AppSettings stored(onDisk.path());
+    const QByteArray content("[settings]\neffects=1\n;");
+    writeFile(stored.settingsIni(), content + QByteArray(fileSize - content.size(), 'x'));
+    QFile filler(onDisk.filePath(QStringLiteral("filler")));
+    QVERIFY(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    while (filler.write(QByteArray(4096, 'x')) > 0) {
+    }
+    QVERIFY(filler.resize(filler.size() / 4096 * 4096 - room));
+    const qint64 available = QStorageInfo(onDisk.path()).bytesAvailable();
+    if (available != room) {
+        QSKIP("this system keeps disks in blocks of another size");
+    }
+    stored.write(SettingKeys::effects, 2);
+    QTEST(stored.read(SettingKeys::effects), "stored");
 }
 
 void TestSettingsTrouble::lockLeftByAKilledWriter_data()
