@@ -6,6 +6,7 @@
 #include "system/platform.h"
 #include "ui/darkstyle.h"
 #include "ui/mainwindow.h"
+#include "ui/windowshowing.h"
 
 #include <QDateTime>
 #include <QDebug>
@@ -85,15 +86,8 @@ int main(int argc, char *argv[])
     MainWindow window(settings, *platform, application, QDateTime::currentMSecsSinceEpoch,
                       ServiceEndpoint());
     QObject::connect(&application, SIGNAL(aboutToQuit()), &window, SLOT(ShutdownQuit()));
-    QObject::connect(&application, &SingleApplication::instanceStarted, &window, [&window] {
-        // Raised before it is shown, so that a minimised window comes back in front. The order
-        // differs from the one below and from those of the tray and of an update, on purpose.
-        window.raise();
-        window.show();
-        window.showNormal();
-        window.activateWindow();
-        window.setFocus(Qt::OtherFocusReason);
-    });
+    QObject::connect(&application, &SingleApplication::instanceStarted, &window,
+                     [&window] { WindowShowing::again(window); });
 
     // On purpose the one settings object that lives until the event loop has ended; every other
     // access makes one for the call.
@@ -103,19 +97,6 @@ int main(int argc, char *argv[])
     const bool startHidden =
         SettingKeys::startHidden.from(openSettings->value(settingsPath(SettingKeys::startHidden)));
 
-    const bool stayHidden = startHidden && !startedAgain && !window.wasAskedFor();
-    if (stayHidden) {
-        // No flash, and nothing left to do for a window manager when a later start shows the
-        // window. One that was closed meanwhile has set this itself.
-        window.setAttribute(Qt::WA_DontShowOnScreen);
-    }
-    window.show();
-    window.raise();
-    window.setFocus(Qt::OtherFocusReason);
-    window.activateWindow();
-    if (stayHidden) {
-        window.hide();
-        window.setAttribute(Qt::WA_DontShowOnScreen, false);
-    }
+    WindowShowing::first(window, startHidden && !startedAgain && !window.wasAskedFor());
     return QApplication::exec();
 }
