@@ -138,7 +138,7 @@ void TestPolkit::commandLine()
 {
     QFETCH(QByteArrayList, set);
     const QByteArray record = QFile::encodeName(folder->filePath(QStringLiteral("record")));
-    makePkexec("printf '%s\\n' \"$@\" >'" + record + "'\nexit 127\n");
+    makePkexec(R"(printf '%s\n' "$@" >')" + record + "'\nexit 127\n");
     const auto before = QProcessEnvironment::systemEnvironment();
     for (const char *name : {"DISPLAY", "XAUTHORITY", "WAYLAND_DISPLAY", "XDG_RUNTIME_DIR"}) {
         qunsetenv(name);

@@ -8,10 +8,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <array>
 #include <atomic>
 #include <csignal>
 #include <thread>
-#include <vector>
 
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -114,9 +114,9 @@ void TestLocks::oneHolderAtATimeInAHurry()
     std::atomic<int> holders = 0;
     std::atomic<int> tooMany = 0;
     std::atomic<int> held = 0;
-    std::vector<std::thread> threads;
-    for (int thread = 0; thread < 4; ++thread) {
-        threads.emplace_back([&] {
+    std::array<std::thread, 4> threads;
+    for (std::thread &thread : threads) {
+        thread = std::thread([&] {
             for (int attempt = 0; attempt < 5000; ++attempt) {
                 if (const auto lock = FileLock::acquire(path, 0)) {
                     ++held;
