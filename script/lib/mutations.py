@@ -111,6 +111,7 @@ NO_EXPRESSION = {
     "Q_OBJECT"}
 # clang-format sets a blank between a type and a name, and none between a name and its bracket.
 DECLARATION = re.compile(r"[\w:]+(<.*>)?(\s|\s?[&*]+)\w+\s*([=;({\[]|$)", re.DOTALL)
+SYMMETRIC = {"min", "max", "gcd"}  # their arguments have no order
 PARAMETER = re.compile(r"(const\s)?[\w:<>]+(\s[\w:<>]+)*\s[&*]*\w*(\s=.*)?", re.DOTALL)
 
 
@@ -322,6 +323,8 @@ class CppPlaces(Places):
         if not braces and any(text.startswith(("SIGNAL(", "SLOT(", "QIODevice::", "Qt::"))
                               for text in texts):
             return  # of different types
+        if not braces and self.tokens[opening - 1].text in SYMMETRIC:
+            return
         if not braces and (opening == 0 or self.tokens[opening - 1].kind != "word"
                            and self.tokens[opening - 1].text not in (">", ")", "]")):
             return
@@ -329,7 +332,7 @@ class CppPlaces(Places):
                                                                      texts[1:]):
             between = self.text[left_end:right_start]
             # A list of names alone is a set more often than not: its order means nothing.
-            if not braces or re.search(r"[\"'{\d]", left + right):
+            if not braces or re.search(r"[\"'{]|(?<!\w)\d", f"{left} {right}"):
                 self.add("row" if braces else "arguments", start, end, right + between + left)
             if braces:
                 self.add("row", start, right_start, "")
