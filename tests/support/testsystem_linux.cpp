@@ -151,7 +151,9 @@ std::shared_ptr<void> TestSystem::moveDocuments(const QString &folder)
 
 QProcessEnvironment TestSystem::programEnvironment(const QString & /*programFolder*/)
 {
-    return QProcessEnvironment::systemEnvironment();
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(QStringLiteral("QT_XCB_GL_INTEGRATION")); // script/lib/room sets it
+    return environment;
 }
 
 std::optional<QString> TestSystem::autostartEntry()
