@@ -155,6 +155,7 @@ void SingleApplicationPrivate::releaseRole()
 void SingleApplicationPrivate::becomePrimary()
 {
     QLocalServer::removeServer(serverName);
+    // A child as well, so that from outside it can be looked for whether it keeps clients.
     server = std::make_unique<QLocalServer>(&application);
     server->setSocketOptions((options & SingleApplication::PerUser) != 0
                                  ? QLocalServer::UserAccessOption

@@ -10,6 +10,7 @@
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QSharedMemory>
+#include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTest>
 
@@ -101,8 +102,7 @@ class OtherCopy
 public:
     /// @param user empty where none can be told
     /// @param task what it does: "--copy" is guarded, "--hold" takes the lock of the block and
-    /// keeps
-    ///        it.
+    /// keeps it
     OtherCopy(const QString &user, bool allowSecondary, int options,
               const QString &task = QStringLiteral("--copy"))
     {
@@ -226,7 +226,20 @@ inline std::optional<int> runCopy(int argc, char **argv)
     return QApplication::exec();
 }
 
-/// Runs a test whose application object is the primary copy of the user "guarded".
+/// What a test has whose application object is the primary copy of the user "guarded".
+class InsidePrimary : public QObject
+{
+protected:
+    explicit InsidePrimary(SingleApplication &guard)
+        : application(guard)
+    {}
+
+    SingleApplication &application;
+    const QString name = ownName(QStringLiteral("guarded"), SingleApplication::PerUser);
+    QSignalSpy started{&application, &SingleApplication::instanceStarted};
+};
+
+/// Runs such a test.
 template<class Test> int runGuarded(int argc, char **argv)
 {
     if (const auto exitCode = runCopy(argc, argv)) {

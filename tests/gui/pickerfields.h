@@ -34,6 +34,20 @@ inline void enter(const TestWindow &world, const char *field, const char *text)
     QTest::keyClick(edit, Qt::Key_V, Qt::ControlModifier);
 }
 
+/// Types letter by letter; a "<" is a Backspace, a ">" a Delete.
+inline void typeAndErase(QLineEdit &edit, const QString &keys)
+{
+    for (const QChar key : keys) {
+        if (key == QLatin1Char('<')) {
+            QTest::keyClick(&edit, Qt::Key_Backspace);
+        } else if (key == QLatin1Char('>')) {
+            QTest::keyClick(&edit, Qt::Key_Delete);
+        } else {
+            QTest::keyClick(&edit, key.toLatin1());
+        }
+    }
+}
+
 /// Types a text letter by letter in the place of the old one.
 inline void type(const TestWindow &world, const char *field, const QString &keys)
 {

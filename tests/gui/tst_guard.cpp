@@ -20,13 +20,13 @@ constexpr int tries = 10;
 } // namespace
 
 /// The guard where others are in its way or late, and what this program makes no use of.
-class TestGuard : public QObject
+class TestGuard : public InsidePrimary
 {
     Q_OBJECT
 
 public:
     explicit TestGuard(SingleApplication &guard)
-        : application(guard)
+        : InsidePrimary(guard)
     {}
 
 private slots:
@@ -50,17 +50,11 @@ private:
     /// The shortest of some tries, for the machine may be busy with others; ends at the first that
     /// is shorter than @p enough.
     template<class Try> qint64 shortest(Try attempt, qint64 enough);
-
-    SingleApplication &application;
-    QString name;
-    std::unique_ptr<QSignalSpy> started;
 };
 
 void TestGuard::init()
 {
-    name = ownName(QStringLiteral("guarded"), SingleApplication::PerUser);
-    started = std::make_unique<QSignalSpy>(&application, SIGNAL(instanceStarted()));
-    QVERIFY(started->isValid());
+    started.clear();
 }
 
 template<class Try> qint64 TestGuard::shortest(Try attempt, qint64 enough)
@@ -91,7 +85,7 @@ void TestGuard::lockThatIsNotGivenBack()
     OtherCopy copy(QStringLiteral("guarded"), false, SingleApplication::PerUser);
     QVERIFY(copy.leaves());
     QVERIFY(copy.warns(leftTaken));
-    QTRY_COMPARE(started->count(), 1);
+    QTRY_COMPARE(started.count(), 1);
 }
 
 void TestGuard::lockThatIsNotGivenBackAtTheEnd()
@@ -211,9 +205,9 @@ void TestGuard::otherTypesWithNotify()
         clients.push_back(announce(noisy, type));
     }
     clients.push_back(announce(noisy, ConnectionMessage::SecondaryStart));
-    QTRY_VERIFY(!started->isEmpty());
+    QTRY_VERIFY(!started.isEmpty());
     QTest::qWait(50);
-    QCOMPARE(started->count(), 1);
+    QCOMPARE(started.count(), 1);
 }
 
 void TestGuard::nobodyIsWaiting()
@@ -223,13 +217,13 @@ void TestGuard::nobodyIsWaiting()
     SingleApplicationPrivate guard(application, platform, SingleApplication::PerUser);
     QVERIFY(guard.start(false, timeoutMs));
     guard.slotConnectionEstablished();
-    QVERIFY(started->isEmpty());
+    QVERIFY(started.isEmpty());
 }
 
 /// A later start may be held up between its connection and its first words.
 void TestGuard::wordsThatComeLater()
 {
-    for (int attempt = 0; attempt < tries && started->isEmpty(); ++attempt) {
+    for (int attempt = 0; attempt < tries && started.isEmpty(); ++attempt) {
         std::thread late([this] {
             const auto client = connectTo(name);
             std::this_thread::sleep_for(std::chrono::milliseconds(30));
@@ -237,10 +231,10 @@ void TestGuard::wordsThatComeLater()
             client->waitForBytesWritten(1000);
             client->waitForDisconnected(timeoutMs);
         });
-        started->wait(3 * timeoutMs);
+        started.wait(3 * timeoutMs);
         late.join();
     }
-    QVERIFY(!started->isEmpty());
+    QVERIFY(!started.isEmpty());
 }
 
 void TestGuard::wordsThatAreThereAreNotWaitedFor()
@@ -248,7 +242,7 @@ void TestGuard::wordsThatAreThereAreNotWaitedFor()
     const qint64 took = shortest(
         [this] {
             const auto client = announce(name, ConnectionMessage::NewStart);
-            started->wait();
+            started.wait();
         },
         80);
     QVERIFY2(took < 80, qPrintable(QString::number(took)));

@@ -1,4 +1,5 @@
 #include "colorpicker/hextyping.h"
+#include "tests/gui/pickerfields.h"
 
 #include <QApplication>
 #include <QFocusEvent>
@@ -29,19 +30,7 @@ struct Field
             edit.setCursorPosition(2 * cursor);
         });
     }
-    /// A "<" is a Backspace, a ">" a Delete.
-    void type(const QString &keys)
-    {
-        for (const QChar key : keys) {
-            if (key == QLatin1Char('<')) {
-                QTest::keyClick(&edit, Qt::Key_Backspace);
-            } else if (key == QLatin1Char('>')) {
-                QTest::keyClick(&edit, Qt::Key_Delete);
-            } else {
-                QTest::keyClick(&edit, key.toLatin1());
-            }
-        }
-    }
+    void type(const QString &keys) { PickerFields::typeAndErase(edit, keys); }
     QLineEdit edit;
 };
 

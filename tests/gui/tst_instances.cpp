@@ -3,7 +3,6 @@
 #include "tests/support/testsystem.h"
 
 #include <QLocalServer>
-#include <QSignalSpy>
 
 #include <algorithm>
 #include <memory>
@@ -12,13 +11,13 @@
 using namespace GuardTest;
 
 /// The guard in several processes.
-class TestInstances : public QObject
+class TestInstances : public InsidePrimary
 {
     Q_OBJECT
 
 public:
     explicit TestInstances(SingleApplication &guard)
-        : application(guard)
+        : InsidePrimary(guard)
     {}
 
 private slots:
@@ -39,25 +38,18 @@ private slots:
     void whoMayConnect();
     void handOverAndTakeBack();
     void takeBackTooLate();
-
-private:
-    SingleApplication &application;
-    QString name;
-    std::unique_ptr<QSignalSpy> started;
 };
 
 void TestInstances::init()
 {
-    name = ownName(QStringLiteral("guarded"), SingleApplication::PerUser);
-    started = std::make_unique<QSignalSpy>(&application, SIGNAL(instanceStarted()));
-    QVERIFY(started->isValid());
+    started.clear();
 }
 
 void TestInstances::secondStart()
 {
     OtherCopy copy(QStringLiteral("guarded"), false, SingleApplication::PerUser);
     QVERIFY(copy.leaves());
-    QTRY_COMPARE(started->count(), 1);
+    QTRY_COMPARE(started.count(), 1);
     QVERIFY(copy.says("front " + QByteArray::number(QCoreApplication::applicationPid())));
     QVERIFY(copy.says("queued 1 for 5000 ms"));
     QVERIFY(!copy.warns("lock of the running copies"));
@@ -93,10 +85,10 @@ void TestInstances::anotherUser()
 {
     OtherCopy copy(QStringLiteral("somebody else"), false, SingleApplication::PerUser);
     QVERIFY(copy.stays());
-    QVERIFY(started->isEmpty());
+    QVERIFY(started.isEmpty());
     OtherCopy forAll(QStringLiteral("guarded"), false, 0);
     QVERIFY(forAll.stays());
-    QVERIFY(started->isEmpty());
+    QVERIFY(started.isEmpty());
 }
 
 void TestInstances::secondaries()
@@ -203,7 +195,7 @@ void TestInstances::lockLeftTaken()
     QVERIFY(holder.process.waitForFinished());
     OtherCopy copy(QStringLiteral("guarded"), false, SingleApplication::PerUser);
     QVERIFY(copy.leaves());
-    QTRY_COMPARE(started->count(), 1);
+    QTRY_COMPARE(started.count(), 1);
 }
 
 void TestInstances::startsComeOneByOne()
@@ -291,10 +283,10 @@ void TestInstances::handOverAndTakeBack()
     QVERIFY(readBlock(name)->primaryRunning);
     QCOMPARE(readBlock(name)->primaryProcessId, QCoreApplication::applicationPid());
     QVERIFY(staysTheSame());
-    started->clear();
+    started.clear();
     OtherCopy copy(QStringLiteral("guarded"), false, SingleApplication::PerUser);
     QVERIFY(copy.leaves());
-    QTRY_COMPARE(started->count(), 1);
+    QTRY_COMPARE(started.count(), 1);
 }
 
 void TestInstances::takeBackTooLate()
@@ -309,7 +301,7 @@ void TestInstances::takeBackTooLate()
     OtherCopy copy(QStringLiteral("guarded"), false, SingleApplication::PerUser);
     QVERIFY(copy.leaves());
     QTRY_VERIFY(next.says("started"));
-    QVERIFY(started->isEmpty());
+    QVERIFY(started.isEmpty());
     QVERIFY(next.end());
     application.takeBack(); // the other has gone
     QCOMPARE(readBlock(name)->primaryProcessId, QCoreApplication::applicationPid());

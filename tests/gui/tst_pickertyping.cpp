@@ -7,24 +7,6 @@
 
 using namespace PickerFields;
 
-namespace {
-
-/// Types letter by letter; a "<" is a Backspace, a ">" a Delete.
-void typeAndErase(QLineEdit &edit, const QString &keys)
-{
-    for (const QChar key : keys) {
-        if (key == QLatin1Char('<')) {
-            QTest::keyClick(&edit, Qt::Key_Backspace);
-        } else if (key == QLatin1Char('>')) {
-            QTest::keyClick(&edit, Qt::Key_Delete);
-        } else {
-            QTest::keyClick(&edit, key.toLatin1());
-        }
-    }
-}
-
-} // namespace
-
 /// Colours typed into the picker's fields, which are written anew at each letter.
 class TestPickerTyping : public QObject
 {
