@@ -34,6 +34,9 @@ protected:
 
     void showEvent(QShowEvent *event) override
     {
+        if (event->spontaneous()) {
+            return; // restored by the window system; the base would take its own width again
+        }
         QMessageBox::showEvent(event);
         const QPoint middle = geometry().center();
         fit();

@@ -95,6 +95,7 @@ private slots:
     void widestLine_data();
     void widestLine();
     void staysAsItIs();
+    void staysWhereItIs();
 
 private:
     std::unique_ptr<TestWindow> world;
@@ -340,6 +341,26 @@ void TestMessages::staysAsItIs()
             QCOMPARE(box.maximumSize(), size);
             QCOMPARE(textLabel(box).width(), width);
         }
+    };
+    ask(world->window.get(), Messages::uninstallNeedsRights);
+    QCOMPARE(watcher.seen.size(), 1);
+}
+
+/// The window system shows it again, as after a minimised window.
+void TestMessages::staysWhereItIs()
+{
+    BoxWatcher watcher(QMessageBox::No);
+    watcher.look = [](QMessageBox &box) {
+        QTRY_COMPARE(box.size(), box.minimumSize());
+        const QSize size = box.size();
+        box.move(box.pos() + QPoint(37, 23));
+        const QPoint position = box.pos();
+        box.setContentsMargins(0, 9, 0, 0); // with which it would be laid out anew
+        QShowEvent restored;
+        QSpontaneKeyEvent::setSpontaneous(&restored);
+        QVERIFY(qApp->notify(&box, &restored)); // as sendEvent would say that we sent it
+        QCOMPARE(box.pos(), position);
+        QCOMPARE(box.size(), size);
     };
     ask(world->window.get(), Messages::uninstallNeedsRights);
     QCOMPARE(watcher.seen.size(), 1);
